@@ -1,0 +1,3 @@
+#include "base/Dialogs.h"
+
+Dialogs::~Dialogs() = default;

@@ -1,0 +1,3 @@
+#include "base/MSComm.h"
+
+MSComm::~MSComm() = default;

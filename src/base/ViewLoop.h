@@ -1,0 +1,65 @@
+#pragma once
+
+#include <functional>
+#include <QObject>
+#include <QTimer>
+#include <vector>
+
+/// The running loop of a view, cut into steps: one row, one panel, one address. A step may read
+/// the board; it never yields and never waits for the user.
+class ViewLoop {
+public:
+    enum class Step {
+        Worked, ///< something was done; give the next step at the next turn
+        Rest,   ///< nothing to do just now; look again after the rest time
+    };
+
+    virtual ~ViewLoop();
+    /// Does one step.
+    virtual Step TakeStep() = 0;
+};
+
+/// Keeps view loops still as long as it lives: held by DoEvents, by jobs and transfers and by
+/// message boxes. Holds may nest.
+class ViewLoopHold {
+public:
+    ViewLoopHold();
+    ~ViewLoopHold();
+    ViewLoopHold(const ViewLoopHold&) = delete;
+    ViewLoopHold& operator=(const ViewLoopHold&) = delete;
+    /// True while at least one hold lives.
+    static bool AnyHeld();
+};
+
+/// Gives steps, one per turn of the event loop, to the loop that was activated last and still
+/// runs, and falls back to the one before it when that ends. No step is given while a hold lives
+/// or while a modal window is up that is not the loop's own view.
+class ViewLoopRunner : public QObject {
+    Q_OBJECT
+public:
+    /// Milliseconds between looks at a loop that rests or is blocked.
+    static constexpr int restTime = 100;
+
+    /// Whether a modal window other than the view of the loop is up.
+    using ModalTest = std::function<bool(const ViewLoop&)>;
+
+    explicit ViewLoopRunner(ModalTest blockedByModal, QObject* parent = nullptr);
+
+    /// The loop gets the steps from now on, until another is activated or it leaves.
+    void Activate(ViewLoop& loop);
+    /// The loop gets no more steps; harmless if it has none. Must be called before it dies.
+    void Leave(ViewLoop& loop);
+    /// Something changed that a resting loop should see at once.
+    void Wake();
+    /// The loop that gets the steps now, or null.
+    ViewLoop* Current() const;
+
+private:
+    void Turn();
+    void Schedule(int milliseconds);
+
+    ModalTest blockedByModal_;
+    std::vector<ViewLoop*> loops_; // the last one is current
+    QTimer timer_;
+    bool inStep_ = false;
+};

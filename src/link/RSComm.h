@@ -1,0 +1,217 @@
+#pragma once
+
+#include "link/ParsedAddress.h"
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <QString>
+#include <QStringList>
+
+class ApplicationFolder;
+class BusyDisplay;
+class Clock;
+class Dialogs;
+class MSComm;
+class RunTimeError;
+
+/// Result of an exchange that got no reply; no byte has this value.
+constexpr int noReply = 9999;
+
+/// Steps into which the link can be put by a handshake: 0 none, 1 read, 2 write, 3 to 8 commands
+/// of limit switch boards.
+namespace LinkMode {
+constexpr int None = 0;
+constexpr int Read = 1;
+constexpr int Write = 2;
+constexpr int PLSReadWord = 4;
+} // namespace LinkMode
+
+/// The one object through which every byte to or from a target board passes.
+///
+/// The line is a lockstep of single bytes: one out, one in. There is no frame and no check byte;
+/// integrity comes from the board echoing what it was sent. Failures never reach a caller as an
+/// error: they set CommError, which stops all traffic until somebody clears it, and show the
+/// link's own boxes. While a reply is waited for no handler and no timer runs.
+class RSComm {
+public:
+    /// `dialogs` shows the link's boxes, `clock` measures time-outs, `busy` is told of long waits,
+    /// `folder` holds the settings and the fault texts. All must outlive the object.
+    RSComm(Dialogs& dialogs, Clock& clock, BusyDisplay& busy, const ApplicationFolder& folder);
+    ~RSComm();
+    RSComm(const RSComm&) = delete;
+    RSComm& operator=(const RSComm&) = delete;
+
+    // Board catalog and variable addresses: total functions that never touch the line. They are
+    // described in TargetBoards.h, VariableAddress.h and MarkHex.h, where they are made.
+    static QString TargetboardName(qint16 BoardType);
+    static QString LCFBoardIndex(qint16 BoardType);
+    static QString EquateAdd(const QString& Var, qint16 TargetBoardIndex);
+    static bool ValidAdd(const QString& Var, qint16 TargetBoardIndex);
+    static QString MarkHex2HEX(QString& MarkHEX);
+    static QString HEX2MarkHEX(QString& HexCode);
+    static qint16 Dec2Octal(qint16 DecNum);
+    static qint16 Octal2Dec(qint16 OctNum);
+
+    // State of the session.
+
+    /// The link is open and trusted.
+    bool OnlineMode() const { return onlineMode_; }
+    void SetOnlineMode(bool online) { onlineMode_ = online; }
+    /// A communication failure stands: no byte goes out until somebody clears it.
+    bool CommError() const { return commError_; }
+    void SetCommError(bool error) { commError_ = error; }
+    /// A reply time-out is under way: true from the first time-out until a byte arrives.
+    bool CommErrorAlert() const { return commErrorAlert_; }
+    void SetCommErrorAlert(bool alert) { commErrorAlert_ = alert; }
+    /// Board index (TargetBoards.h) of the selected program set.
+    qint16 TargetboardType() const { return targetboardType_; }
+    void SetTargetboardType(qint16 index) { targetboardType_ = index; }
+    /// A program dump runs.
+    bool InProgramMode() const { return inProgramMode_; }
+    /// A program upload is wanted or runs: set by the callers, cleared by UploadProgram.
+    bool InUploadMode() const { return inUploadMode_; }
+    void SetInUploadMode(bool UploadMode) { inUploadMode_ = UploadMode; }
+    /// An operation of the link is on the stack, a box that it shows included: nobody else may
+    /// use the line now.
+    bool OperationRuns() const { return operations_ > 0; }
+
+    // Port.
+
+    /// Sets the port up from the settings file, opens it and sends attention. OnlineMode tells the
+    /// outcome; a port that cannot be opened is reported by a box. Copes with an open port.
+    void OpenRSComm(MSComm& CommObj);
+    /// Leaves the board out of any mode, closes the port, goes offline. Harmless when closed.
+    void CloseRSComm();
+    /// Full path of the file with port number and baud.
+    QString CommSettingsFile() const;
+
+    // Variables: `Add` is a variable already passed through EquateAdd if it was a point.
+
+    /// Value of a variable in decimal; "0" on failure, so look at CommError before trusting it.
+    QString RSRead(const QString& Add);
+    /// Writes a decimal value: bytes 0 to 255, words 0 to 65535, double words 0 to 655359999,
+    /// bits 0 or 1. A value that does not fit is refused with a box and nothing is sent. A wrong
+    /// echo is retried once; a second one is silent.
+    void RSWrite(const QString& Add, const QString& DataValue);
+
+    // Faults and keep-alive.
+
+    /// Current fault code of the board, 0 to 255; 0 while CommError stands.
+    qint16 FaultCode();
+    /// "Fault Code (05H): " and the text that the fault table holds for the code, 0 to 255.
+    QString FaultDescription(qint16 FltCode);
+    /// Offset of a limit switch board in decimal, "-9999" on failure.
+    QString PLSOffset();
+    /// Firmware revision of the board; -1 while offline or in a communication failure.
+    qint16 FirmwareRev();
+
+    // Programs.
+
+    /// Names a program set for DumpProgram and checks it; ValidProgram tells the outcome. Shows
+    /// why a set cannot go to a board. Never touches the line.
+    void DownloadFile(const QString& HDN_FileName);
+    /// Names a program set for UploadProgram. Never touches the line.
+    void UploadFile(const QString& HDN_FileName);
+    /// Sends the image of the named set into the board and reports how it ended.
+    void DumpProgram();
+    /// Reads the image out of the board into the named set and reports how it ended.
+    void UploadProgram();
+    /// Address of the record in transfer: four hexadecimal digits and "H".
+    const QString& CurrentProgramAdd() const { return currentProgramAdd_; }
+    /// DumpProgram is writing the ident block.
+    bool WritingIdent() const { return writingIdent_; }
+    /// UploadProgram is reading the ident block.
+    bool ReadingIdent() const { return readingIdent_; }
+    /// The set named in the last DownloadFile passed its checks.
+    bool ValidProgram() const { return validProgram_; }
+
+private:
+    // Counts how deep the link's operations are on the stack.
+    class Operation {
+    public:
+        explicit Operation(RSComm& link) : link_(link) { ++link_.operations_; }
+        ~Operation() { --link_.operations_; }
+        Operation(const Operation&) = delete;
+        Operation& operator=(const Operation&) = delete;
+
+    private:
+        RSComm& link_;
+    };
+
+    // RSCommPort.cpp: settings, opening, closing.
+    void InitializeRSComm(MSComm& CommObj);
+    void RetryOrGiveUp(const std::function<void()>& statement);
+    void ReportPortError(const RunTimeError& error);
+
+    // RSCommExchange.cpp: one byte out, one byte in.
+    enum class Reply { Wait, None };
+    enum class InputBuffer { Keep, Clear };
+    int ExchangeByte(std::uint8_t byte, Reply reply = Reply::Wait,
+                     InputBuffer input = InputBuffer::Keep);
+    int AwaitReply();
+    bool InputArrives(double deadline);
+    void SendByte(std::uint8_t byte);
+    bool UserRetries(const QString& text);
+    bool SetTargetMode(int mode, std::uint8_t modeByte);
+    void WaitSeconds(double seconds);
+
+    // RSCommVariables.cpp: read and write mode.
+    QString ReadVariable(const QString& variable);
+    void ParseForReading(const QString& variable);
+    bool ReadByteAt(qint32 address, std::uint8_t& data);
+    QString ComposeValue() const;
+    void WriteVariable(const QString& Add, const QString& DataValue);
+    std::optional<double> NumberToWrite(const QString& DataValue);
+    std::optional<double> ByteWithBit(const ParsedAddress& target, double bit);
+    void SendBytes(qint32 address, const QByteArray& bytes);
+    bool EchoedAlike(std::uint8_t byte, bool& answered);
+    void RefuseEntry(const QString& reason);
+
+    // RSCommPLS.cpp: commands of limit switch boards.
+    int ReadPLSWord(std::uint8_t command);
+
+    // RSCommProgramSet.cpp: the files of a program set.
+    void SetProgramIdent(const QString& revFile);
+    void SetProgramConfig(const QString& lcfFile);
+
+    Dialogs& dialogs_;
+    Clock& clock_;
+    BusyDisplay& busy_;
+    const ApplicationFolder& folder_;
+    MSComm* port_ = nullptr;
+
+    bool onlineMode_ = false;
+    bool commError_ = false;
+    bool commErrorAlert_ = false;
+    qint16 targetboardType_ = 0;
+    bool inProgramMode_ = false;
+    bool inUploadMode_ = false;
+    int operations_ = 0;
+
+    int linkMode_ = LinkMode::None;
+    bool writeFailed_ = false;
+    bool portSettingsBad_ = false;
+
+    ParsedAddress parsed_;
+    std::optional<QString> lastVariable_; // the text that parsed_ was made from by a read
+    int lastByteCount_ = 0;               // 1, 2 or 4
+    std::array<std::uint8_t, 4> lastBytes_{};
+
+    QString currentProgramAdd_;
+    bool writingIdent_ = false;
+    bool readingIdent_ = false;
+    bool validProgram_ = false;
+    QString programIdent_ = QStringLiteral("Unknown");
+    QString programRevision_ = QStringLiteral("Unknown");
+    QString programChecksum_ = QStringLiteral("Unknown");
+    qint16 configCodeA_ = 3;
+    qint16 configCodeB_ = 0;
+    qint16 configCodeC_ = 3;
+    QString hdnPath_;
+    QString revPath_;
+    QString hexPath_;
+    QString lcfPath_;
+    QString boardName_;
+    qint16 boardIndex_ = 0;
+};

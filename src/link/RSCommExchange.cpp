@@ -1,0 +1,145 @@
+#include "base/Clock.h"
+#include "base/Dialogs.h"
+#include "base/MSComm.h"
+#include "link/RSComm.h"
+#include <algorithm>
+
+namespace {
+constexpr std::uint8_t attention = 0xFF;
+constexpr std::uint8_t acknowledge = 0x55;
+constexpr double firstReplyTime = 1.0;  // seconds until the first time-out
+constexpr double resyncReplyTime = 2.0; // seconds after each resynchronising attention
+constexpr int timeOutsBeforeAlert = 3;  // 1 + 2 + 2 seconds on a dead line
+constexpr double handshakeTime = 2.0;   // seconds in which a mode must be entered
+constexpr double waitSlice = 0.1;       // seconds between looks at the busy display
+constexpr double quietWait = 0.25;      // seconds of a wait that the user is not shown
+
+QString CannotCommunicate() {
+    return QStringLiteral("Cannot Communicate with Target Board.\r"
+                          "Verify RS-232 Cable is Connected Between\r"
+                          "COMM Port and PROG Port.");
+}
+} // namespace
+
+RSComm::RSComm(Dialogs& dialogs, Clock& clock, BusyDisplay& busy, const ApplicationFolder& folder)
+    : dialogs_(dialogs), clock_(clock), busy_(busy), folder_(folder) {}
+
+RSComm::~RSComm() = default;
+
+void RSComm::SendByte(std::uint8_t byte) {
+    port_->Output(QByteArray(1, static_cast<char>(byte)));
+}
+
+int RSComm::ExchangeByte(std::uint8_t byte, Reply reply, InputBuffer input) {
+    if (commError_)
+        return noReply;
+    if (!port_ || !port_->PortOpen()) {
+        linkMode_ = LinkMode::None;
+        commError_ = true;
+        return noReply;
+    }
+    if (input == InputBuffer::Clear)
+        port_->SetInBufferCount(0);
+    port_->SetInputLen(1);
+    SendByte(byte);
+    commErrorAlert_ = false;
+    return reply == Reply::None ? 0 : AwaitReply();
+}
+
+// Waits for the reply to a byte. After a time-out an attention byte is sent: what answers it is
+// returned as though it answered the byte first sent, and the callers notice by their echo.
+int RSComm::AwaitReply() {
+    double deadline = clock_.MonotonicSeconds() + firstReplyTime;
+    int timeOuts = 0;
+    while (!InputArrives(deadline)) {
+        linkMode_ = LinkMode::None;
+        commError_ = true;
+        commErrorAlert_ = true;
+        deadline = clock_.MonotonicSeconds() + resyncReplyTime;
+        if (++timeOuts < timeOutsBeforeAlert) {
+            port_->SetInBufferCount(0);
+            commError_ = false;
+            SendByte(attention);
+            continue;
+        }
+        if (!UserRetries(CannotCommunicate()))
+            return noReply;
+        timeOuts = 0;
+    }
+    const QByteArray received = port_->Input();
+    commErrorAlert_ = false;
+    return received.isEmpty() ? 0 : static_cast<std::uint8_t>(received.front());
+}
+
+bool RSComm::UserRetries(const QString& text) {
+    const int answer = dialogs_.MsgBox(text, MsgStyle::CriticalRetryCancel,
+                                       QStringLiteral("WARNING - Communication Error!"));
+    return answer == MsgAnswer::Retry;
+}
+
+// Waits for a received byte until `deadline`, in slices, so that a long wait can be shown. When
+// the port is lost on the way the time passes all the same: a time-out counts only when it is one.
+bool RSComm::InputArrives(double deadline) {
+    if (port_->InBufferCount() >= 1)
+        return true;
+    const double start = clock_.MonotonicSeconds();
+    bool shown = false;
+    bool arrived = false;
+    for (double now = start; !arrived && now < deadline; now = clock_.MonotonicSeconds()) {
+        if (now - start >= quietWait) {
+            busy_.StillWaiting(now - start);
+            shown = true;
+        }
+        const double sliceEnd = std::min(deadline, now + waitSlice);
+        arrived = port_->WaitForInput(sliceEnd);
+        const double left = sliceEnd - clock_.MonotonicSeconds();
+        if (!arrived && left > 0)
+            clock_.Wait(left);
+    }
+    if (shown)
+        busy_.WaitEnded();
+    return arrived;
+}
+
+void RSComm::WaitSeconds(double seconds) {
+    const double start = clock_.MonotonicSeconds();
+    const double deadline = start + seconds;
+    bool shown = false;
+    for (double now = start; now < deadline; now = clock_.MonotonicSeconds()) {
+        if (now - start >= quietWait) {
+            busy_.StillWaiting(now - start);
+            shown = true;
+        }
+        clock_.Wait(std::min(waitSlice, deadline - now));
+    }
+    if (shown)
+        busy_.WaitEnded();
+}
+
+// Enters a link mode: attention and the mode byte, each to be acknowledged.
+bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
+    linkMode_ = LinkMode::None;
+    double deadline = clock_.MonotonicSeconds() + handshakeTime;
+    for (;;) {
+        if (clock_.MonotonicSeconds() >= deadline) {
+            if (!UserRetries(QStringLiteral("Cannot Set PLC Mode Within Target Board."))) {
+                commError_ = true;
+                onlineMode_ = false;
+                CloseRSComm();
+                return false;
+            }
+            deadline = clock_.MonotonicSeconds() + handshakeTime;
+        }
+        int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
+        if (reply == acknowledge) {
+            reply = ExchangeByte(modeByte);
+            if (reply == acknowledge) {
+                linkMode_ = mode;
+                return true;
+            }
+        }
+        if (reply == noReply)
+            return false;
+        linkMode_ = LinkMode::None;
+    }
+}

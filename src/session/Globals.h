@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class FileSystem;
+class MSComm;
+class RSComm;
+
+/// The named state that the whole program shares. Everything else is handed over in constructors.
+
+/// The one link object. Written by the application at start and end; read by all views and jobs.
+extern RSComm* gRSComm;
+/// The serial control lent to gRSComm. Written by the application; read where the port is opened.
+extern MSComm* gCommControl;
+/// The file system helper. Written by the application; read by views that touch files.
+extern FileSystem* gFSO;
+/// Full path of the selected program set's .hdn file, empty when none. Written by the browser and
+/// the commands; read by all views.
+extern QString gHdnFile;
+/// Folder in use. Written by start-up, browser and program set commands; scratch for these.
+extern QString gCurrentFolder;
+/// File in use. Written and read by browser and program set commands.
+extern QString gCurrentFile;
+/// Names of the files of gCurrentFolder. Written and read by delete and rename.
+extern QStringList gCurrentFiles;
+/// Drive (mount point) in use. Written by start-up and the browser; read by the browser.
+extern QString gCurrentDrive;
+
+/// Which view the toolbar's print button serves.
+namespace PrintContext {
+constexpr qint16 Browser = 0;
+constexpr qint16 StatusTable = 1;
+constexpr qint16 Results = 2;
+constexpr qint16 Trending = 3;
+} // namespace PrintContext
+/// Written by each view when it is activated; read by the toolbar's print button.
+extern qint16 gPrintContext;

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "base/MSComm.h"
+#include "support/VirtualClock.h"
+#include <cstdint>
+#include <deque>
+#include <optional>
+#include <vector>
+
+/// A port whose other end answers from a script, for tests on the exact bytes: each byte sent
+/// takes the next reply. A missing reply is silence; a reply may be late.
+class ScriptedPort final : public MSComm {
+public:
+    explicit ScriptedPort(VirtualClock& clock) : clock_(clock) {}
+
+    /// The answer to the next byte that is sent and has none yet.
+    void Reply(int byte, double after = 0.001);
+    void Replies(const std::vector<int>& bytes);
+    /// The next byte that is sent gets no answer.
+    void Silence();
+    /// Every byte that has no scripted reply is echoed, attention and mode bytes are acknowledged.
+    void AnswerLikeBoard(bool on) { answersLikeBoard_ = on; }
+    /// The device goes away.
+    void Lose();
+    /// SetPortOpen(true) raises this error number with this description.
+    void RefuseToOpen(int errorNumber, const QString& description);
+    void RefusePortNumbers(int times) { portNumberRefusals_ = times; }
+
+    /// Bytes sent so far, in order.
+    const std::vector<int>& Sent() const { return sent_; }
+    void ForgetSent() { sent_.clear(); }
+
+    int CommPort() const override { return commPort_; }
+    void SetCommPort(int port) override;
+    QString Settings() const override { return settings_; }
+    void SetSettings(const QString& settings) override { settings_ = settings; }
+    void SetInputLen(int) override {}
+    void SetInputMode(int) override {}
+    bool PortOpen() const override { return open_; }
+    void SetPortOpen(bool open) override;
+    int InBufferCount() override;
+    void SetInBufferCount(int count) override;
+    void Output(const QByteArray& bytes) override;
+    QByteArray Input() override;
+    bool WaitForInput(double deadline) override;
+
+private:
+    struct Scripted {
+        std::optional<int> byte;
+        double after;
+    };
+    struct Arriving {
+        int byte;
+        double at;
+    };
+    void AnswerByte(int byte);
+
+    VirtualClock& clock_;
+    std::deque<Scripted> script_;
+    std::deque<Arriving> arriving_;
+    std::vector<int> sent_;
+    bool answersLikeBoard_ = false;
+    bool open_ = false;
+    int commPort_ = 1;
+    QString settings_;
+    int refuseNumber_ = 0;
+    QString refuseDescription_;
+    int portNumberRefusals_ = 0;
+};
