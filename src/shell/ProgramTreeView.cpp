@@ -9,13 +9,13 @@ namespace {
 constexpr int rootCollapsed = 1;
 constexpr int rootExpanded = 2;
 constexpr int child = 3;
-constexpr int minimumHeight = 69; // pixels: 1035 twips of a fifteenth of a pixel
+constexpr int leastHeight = 69; // pixels: 1035 twips of a fifteenth of a pixel
 } // namespace
 
 ProgramTreeView::ProgramTreeView(QWidget* parent) : QTreeWidget(parent) {
     setHeaderHidden(true);
     setUniformRowHeights(true);
-    setMinimumHeight(minimumHeight);
+    setMinimumHeight(leastHeight);
     setTabKeyNavigation(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     header()->setStretchLastSection(false);
