@@ -1,0 +1,56 @@
+#include "board/Options.h"
+#include "board/Server.h"
+#include "board/Words.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <sys/prctl.h>
+#include <sys/signalfd.h>
+#include <system_error>
+#include <vector>
+
+namespace {
+
+// Signals that end the program are read like input, so that the link is removed on the way out.
+int CatchSignals() {
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        sigaddset(&set, number);
+    sigprocmask(SIG_BLOCK, &set, nullptr);
+    std::signal(SIGPIPE, SIG_IGN); // whoever reads the answers may leave
+    const int handle = signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
+    if (handle < 0)
+        throw std::system_error(errno, std::generic_category(), "signals");
+    return handle;
+}
+
+int Serve(const haldenboard::Options& options) {
+    const int signals = CatchSignals();
+    prctl(PR_SET_TIMERSLACK, 1UL); // nanosecond: bytes are paced by time-outs
+    haldenboard::Server server(options);
+    std::cout << "halden-board: ready on " << server.TerminalName() << std::endl;
+    server.Run(signals);
+    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const auto options =
+            haldenboard::ReadOptions(std::vector<std::string_view>(argv + 1, argv + argc));
+        if (!options.help)
+            return Serve(options);
+        std::cout << haldenboard::OptionsText();
+        return EXIT_SUCCESS;
+    } catch (const haldenboard::TextError& failure) {
+        std::cerr << "halden-board: " << failure.what() << '\n';
+        return 2;
+    } catch (const std::exception& failure) {
+        std::cerr << "halden-board: " << failure.what() << '\n';
+        return EXIT_FAILURE;
+    }
+}
