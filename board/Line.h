@@ -20,7 +20,8 @@ struct LoggedByte {
 
 /// The serial line between a host and the board: full duplex, bytes at the pace of a UART with
 /// start bit, eight data bits and stop bit. Times are seconds on any clock that the caller keeps;
-/// each call's `now` must not be below that of the call before it.
+/// each call's `now` must not be below that of the call before it, but that HostWrites may tell
+/// late of a byte that started a while ago.
 ///
 /// A byte from the host starts when the host's UART is free, is at the board one byte time later,
 /// and the answer starts at that moment, or when the board's UART is free.

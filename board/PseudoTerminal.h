@@ -19,6 +19,7 @@ public:
     PseudoTerminal& operator=(const PseudoTerminal&) = delete;
 
     int Handle() const { return master_; }            ///< to wait for input on
+    int FarHandle() const { return slave_; }          ///< the host's side, as kept open here
     const std::string& Name() const { return name_; } ///< path of the host's side
 
     /// Takes what the host has written, without waiting.

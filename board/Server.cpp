@@ -1,11 +1,14 @@
 #include "board/Server.h"
 
+#include "board/TerminalDelay.h"
+
 #include <array>
 #include <cerrno>
 #include <cmath>
 #include <cstdio>
 #include <iostream>
 #include <poll.h>
+#include <sched.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -13,11 +16,13 @@ namespace haldenboard {
 
 namespace {
 
-// A sleeping thread wakes some tens of microseconds after its time. The last stretch before a byte
-// is due, and the first after a byte was handed over, are spent awake: a byte time at 19200 baud is
-// 521 microseconds, and a lockstep exchange should cost two of them and no more.
-constexpr double AwakeStretch = 60e-6; // seconds
-constexpr size_t MostAtOnce = 4096;    // bytes; what a terminal holds
+// A sleeping thread wakes some tens of microseconds after its time, and a byte time at 19200 baud
+// is 521 microseconds. So the last stretch before a byte is due, and the first after one was handed
+// over, are spent awake; yielding all the while, because the system's own work on the terminal may
+// be queued on this very processor.
+constexpr double AwakeBeforeDue = 60e-6; // seconds
+constexpr double AwakeAfterByte = 100e-6;
+constexpr size_t MostAtOnce = 4096; // bytes; what a terminal holds
 
 timespec ToTimespec(double seconds) {
     const double whole = std::floor(seconds);
@@ -41,6 +46,7 @@ Server::Server(const Options& options)
         if (!log_)
             throw std::system_error(errno, std::generic_category(), options.log);
     }
+    oneWay_ = MeasureTurnaround(terminal_) / 2;
     if (!options.link.empty())
         link_.emplace(options.link, terminal_.Name());
 }
@@ -54,7 +60,7 @@ void Server::Deliver() {
     size_t count = 0;
     const double now = Now();
     while (count < due.size()) {
-        const auto byte = line_.HostReads(now);
+        const auto byte = line_.HostReads(now + oneWay_);
         if (!byte)
             break;
         due[count++] = *byte;
@@ -63,7 +69,7 @@ void Server::Deliver() {
         return;
     terminal_.Write(std::span(due.data(), count));
     if (line_.ByteTime() > 0)
-        watchUntil_ = now + AwakeStretch;
+        watchUntil_ = now + AwakeAfterByte;
     WriteLog();
 }
 
@@ -82,15 +88,15 @@ void Server::WriteLog() {
 bool Server::TakeFromHost() {
     std::array<uint8_t, MostAtOnce> bytes;
     const size_t count = terminal_.Read(bytes);
-    const double now = Now();
+    const double started = Now() - oneWay_;
     for (size_t place = 0; place < count; ++place)
-        line_.HostWrites(bytes[place], now);
+        line_.HostWrites(bytes[place], started);
     return count > 0;
 }
 
 void Server::Watch(double until) {
-    while (Now() < until && !TakeFromHost()) {
-    }
+    while (Now() < until && !TakeFromHost())
+        sched_yield();
 }
 
 void Server::TakeCommands() {
@@ -116,17 +122,20 @@ void Server::TakeCommands() {
 }
 
 void Server::WaitForWork(int signals) {
-    const auto due = line_.NextArrival();
+    auto due = line_.NextArrival();
+    if (due)
+        *due -= oneWay_;
     const double now = Now();
-    const double watchUntil = due ? *due : watchUntil_;
-    if (now < watchUntil && watchUntil - now <= AwakeStretch)
-        return Watch(watchUntil);
+    if (due && now < *due && *due - now <= AwakeBeforeDue)
+        return Watch(*due);
+    if (!due && now < watchUntil_)
+        return Watch(watchUntil_);
     if (due && *due <= now)
         return;
     std::array<pollfd, 3> sources{{{terminal_.Handle(), POLLIN, 0},
                                    {signals, POLLIN, 0},
                                    {inputOpen_ ? STDIN_FILENO : -1, POLLIN, 0}}};
-    const timespec rest = due ? ToTimespec(*due - now - AwakeStretch) : timespec{};
+    const timespec rest = due ? ToTimespec(*due - now - AwakeBeforeDue) : timespec{};
     if (ppoll(sources.data(), sources.size(), due ? &rest : nullptr, nullptr) <= 0)
         return;
     if (sources[0].revents != 0)

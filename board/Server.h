@@ -46,6 +46,9 @@ private:
     std::optional<TerminalLink> link_;
     std::ofstream log_;
     InputLines inputLines_;
+    /// Seconds that the terminal takes one way. Bytes are handed over so much early, and are taken
+    /// to have started so much before they are seen.
+    double oneWay_ = 0;
     Clock::time_point start_ = Clock::now();
     double watchUntil_ = 0; ///< seconds; until then the host's next byte is looked for without rest
     bool inputOpen_ = true;
