@@ -2,9 +2,11 @@
 #include "board/Server.h"
 #include "board/Words.h"
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <exception>
+#include <fcntl.h>
 #include <iostream>
 #include <sys/prctl.h>
 #include <sys/signalfd.h>
@@ -12,6 +14,13 @@
 #include <vector>
 
 namespace {
+
+// A standard handle that is closed would be given to the terminal, which then got our answers.
+void OpenStandardHandles() {
+    for (const int handle : {0, 1, 2})
+        if (fcntl(handle, F_GETFD) < 0 && open("/dev/null", O_RDWR) != handle)
+            throw std::system_error(errno, std::generic_category(), "/dev/null");
+}
 
 // Signals that end the program are read like input, so that the link is removed on the way out.
 int CatchSignals() {
@@ -28,6 +37,7 @@ int CatchSignals() {
 }
 
 int Serve(const haldenboard::Options& options) {
+    OpenStandardHandles();
     const int signals = CatchSignals();
     prctl(PR_SET_TIMERSLACK, 1UL); // nanosecond: bytes are paced by time-outs
     haldenboard::Server server(options);
