@@ -62,7 +62,7 @@ int RSComm::AwaitReply() {
             SendByte(attention);
             continue;
         }
-        if (!UserRetries(CannotCommunicate()))
+        if (!UserRetriesLine())
             return noReply;
         timeOuts = 0;
     }
@@ -75,6 +75,10 @@ bool RSComm::UserRetries(const QString& text) {
     const int answer = dialogs_.MsgBox(text, MsgStyle::CriticalRetryCancel,
                                        QStringLiteral("WARNING - Communication Error!"));
     return answer == MsgAnswer::Retry;
+}
+
+bool RSComm::UserRetriesLine() {
+    return UserRetries(CannotCommunicate());
 }
 
 // Waits for a received byte until `deadline`, in slices, so that a long wait can be shown. When
