@@ -9,7 +9,8 @@
 #include <QStringView>
 
 namespace {
-constexpr qsizetype mostCharacters = 16 * 1024 * 1024;
+// A board's 64 KiB with a record for each byte take less than a quarter of this.
+constexpr qsizetype mostCharacters = 4 * 1024 * 1024;
 constexpr int programModeEnd = 0xFF; // as a count it would be taken for attention
 constexpr qsizetype countPlace = 1;
 constexpr qsizetype addressPlace = 3;

@@ -30,8 +30,8 @@ std::uint8_t RecordSum(const QByteArray& wire);
 /// A compiled program image, read and checked as a whole before any of it is sent.
 class HexImage {
 public:
-    /// Reads a .HEX file, one record a line. Raises as TextReader. A file of more than 16 million
-    /// characters, 100 times what the largest board holds, is not read to its end and counts as
+    /// Reads a .HEX file, one record a line. Raises as TextReader. A file of more than 4 million
+    /// characters is far beyond what any board holds: it is not read to its end and counts as
     /// unsendable.
     explicit HexImage(const QString& path);
 

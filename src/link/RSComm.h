@@ -198,6 +198,7 @@ private:
     void EnterProgramMode();
     RecordsEnd SendRecords(const HexImage& image);
     bool SendRecord(const HexLine& record, std::optional<std::uint8_t>& lastReply);
+    std::optional<std::uint8_t> RecordReply();
     bool LeaveProgramMode();
     void WriteIdentBlock();
     void ReportDump();

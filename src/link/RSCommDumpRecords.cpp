@@ -2,6 +2,7 @@
 #include "base/Dialogs.h"
 #include "base/DoEvents.h"
 #include "base/MSComm.h"
+#include "base/RunTimeError.h"
 #include "link/HexImage.h"
 #include "link/RSComm.h"
 
@@ -40,10 +41,22 @@ bool RSComm::SendRecord(const HexLine& record, std::optional<std::uint8_t>& last
     currentProgramAdd_ = record.address + u'H';
     for (const char byte : record.wire.sliced(headLength))
         ExchangeByte(static_cast<std::uint8_t>(byte), Reply::None);
-    if (InputArrives(clock_.MonotonicSeconds() + recordReplyTime)) {
+    if (const std::optional<std::uint8_t> reply = RecordReply())
+        lastReply = reply;
+    return lastReply == RecordSum(record.wire);
+}
+
+// What the board says to a record, or nothing when it stays silent. A port that fails meanwhile is
+// a link failure like any other.
+std::optional<std::uint8_t> RSComm::RecordReply() {
+    try {
+        if (!InputArrives(clock_.MonotonicSeconds() + recordReplyTime))
+            return std::nullopt;
         const QByteArray received = port_->Input();
         if (!received.isEmpty())
-            lastReply = static_cast<std::uint8_t>(received.front());
+            return static_cast<std::uint8_t>(received.front());
+    } catch (const RunTimeError&) {
+        commError_ = true;
     }
-    return lastReply == RecordSum(record.wire);
+    return std::nullopt;
 }
