@@ -83,6 +83,8 @@ QString PortDevices::Device(int port) const {
 }
 
 std::optional<int> PortDevices::PortNumber(const QString& device) const {
+    if (device.isEmpty())
+        return std::nullopt;
     const QString wanted = platform_ == PortPlatform::Windows ? device : ResolvedDevice(device);
     const auto linked = std::find(links_.begin(), links_.end(), wanted);
     if (linked != links_.end())

@@ -190,6 +190,9 @@ void SerialMSComm::SetInBufferCount(int count) {
         return;
     const Call call(*this);
     serial_.clear(QSerialPort::Input);
+    // Reading stops when the buffer is full and is taken up again by a read or by this: without
+    // it nobody would notice on an idle line that the device goes away.
+    serial_.setReadBufferSize(inputBufferSize);
 }
 
 void SerialMSComm::Output(const QByteArray& bytes) {
