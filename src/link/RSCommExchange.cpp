@@ -146,6 +146,11 @@ bool RSComm::InputArrives(double deadline, WaitDisplay& display) {
     }
 }
 
+bool RSComm::InputArrives(double deadline) {
+    WaitDisplay display(busy_, clock_);
+    return InputArrives(deadline, display);
+}
+
 void RSComm::WaitSeconds(double seconds) {
     WaitDisplay display(busy_, clock_);
     const double deadline = clock_.MonotonicSeconds() + seconds;
