@@ -29,7 +29,8 @@ int main(int argc, char** argv) {
     PaintedBusyDisplay busy;
     SystemDrives drives;
     SerialMSComm port(clock, folder);
-    Application application({clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
+    Application application(
+        {clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
     application.Start();
     return QApplication::exec();
 }

@@ -1,9 +1,15 @@
 #include "shell/FileList.h"
 
 #include "programset/ProgramSet.h"
+#include "shell/Icons.h"
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+
+QVariant FileListModel::data(const QModelIndex& index, int role) const {
+    static const QIcon icon = ShellIcon(QStringLiteral("TreeImage1"));
+    return role == Qt::DecorationRole ? QVariant(icon) : QStringListModel::data(index, role);
+}
 
 FileList::FileList(QWidget* parent) : QListView(parent) {
     setModel(&names_);

@@ -8,5 +8,8 @@ static void BringInIcons() {
 QIcon ShellIcon(const QString& name) {
     static const bool broughtIn = (BringInIcons(), true);
     Q_UNUSED(broughtIn);
-    return QIcon(QStringLiteral(":/shell/icons/%1.svg").arg(name));
+    const QString file = QStringLiteral(":/shell/icons/%1.svg").arg(name);
+    QIcon icon(file);
+    icon.addFile(file, QSize(), QIcon::Selected); // not tinted in a selected row
+    return icon;
 }
