@@ -6,6 +6,10 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
+namespace {
+constexpr int iconSize = 16; // pixels at 100 per cent
+} // namespace
+
 QVariant FileListModel::data(const QModelIndex& index, int role) const {
     static const QIcon icon = ShellIcon(QStringLiteral("TreeImage1"));
     return role == Qt::DecorationRole ? QVariant(icon) : QStringListModel::data(index, role);
@@ -14,6 +18,7 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
 FileList::FileList(QWidget* parent) : QListView(parent) {
     setModel(&names_);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setIconSize(QSize(iconSize, iconSize));
     setUniformItemSizes(true); // a folder may hold thousands of sets
     setTabKeyNavigation(false);
 }

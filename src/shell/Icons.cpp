@@ -8,8 +8,5 @@ static void BringInIcons() {
 QIcon ShellIcon(const QString& name) {
     static const bool broughtIn = (BringInIcons(), true);
     Q_UNUSED(broughtIn);
-    const QString file = QStringLiteral(":/shell/icons/%1.svg").arg(name);
-    QIcon icon(file);
-    icon.addFile(file, QSize(), QIcon::Selected); // not tinted in a selected row
-    return icon;
+    return QIcon(QStringLiteral(":/shell/icons/%1.svg").arg(name));
 }

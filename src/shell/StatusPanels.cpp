@@ -8,7 +8,7 @@
 #include <QStyle>
 
 namespace {
-constexpr int panelMargin = 6; // pixels left and right of a text
+constexpr int panelMargin = 3; // pixels around a text
 
 const QColor lampOn(0x2f, 0x9e, 0x5f);
 const QColor lampOff(0x8a, 0x92, 0x9a);
@@ -37,7 +37,7 @@ QString TimeFormat() {
 StatusPanel::StatusPanel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    setContentsMargins(panelMargin, 1, panelMargin, 1);
+    setMargin(panelMargin);
 }
 
 void StatusPanel::SetLamp(bool lit) {
@@ -66,7 +66,7 @@ void StatusPanel::mouseDoubleClickEvent(QMouseEvent*) {
 void StatusPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawFrame(&painter);
-    QRect place = contentsRect();
+    QRect place = contentsRect().marginsRemoved({panelMargin, 0, panelMargin, 0});
     if (lamp_) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
