@@ -9,3 +9,8 @@ QString gCurrentFile;
 QStringList gCurrentFiles;
 QString gCurrentDrive;
 qint16 gPrintContext = PrintContext::Browser;
+
+QStringList gTableAddresses;
+QString gTableTitle;
+bool gViewNicNames = false;
+bool gViewDescriptions = false;
