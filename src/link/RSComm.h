@@ -149,8 +149,10 @@ private:
     enum class InputBuffer { Keep, Clear };
     int ExchangeByte(std::uint8_t byte, Reply reply = Reply::Wait,
                      InputBuffer input = InputBuffer::Keep);
+    int ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input);
     int AwaitReply();
-    bool InputArrives(double deadline);
+    class WaitDisplay;
+    bool InputArrives(double deadline, WaitDisplay& display);
     void SendByte(std::uint8_t byte);
     bool UserRetries(const QString& text);
     bool SetTargetMode(int mode, std::uint8_t modeByte);
