@@ -153,8 +153,11 @@ private:
     enum class InputBuffer { Keep, Clear };
     int ExchangeByte(std::uint8_t byte, Reply reply = Reply::Wait,
                      InputBuffer input = InputBuffer::Keep);
+    int ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input);
     int AwaitReply();
-    bool InputArrives(double deadline);
+    class WaitDisplay;
+    bool InputArrives(double deadline, WaitDisplay& display);
+    bool InputArrivesWithin(double seconds);
     void SendByte(std::uint8_t byte);
     bool UserRetries(const QString& text);
     bool UserRetriesLine();

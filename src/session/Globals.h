@@ -36,3 +36,23 @@ constexpr qint16 Trending = 3;
 } // namespace PrintContext
 /// Written by each view when it is activated; read by the toolbar's print button.
 extern qint16 gPrintContext;
+
+/// Code of the job that runs or ran last (WaitJob). Written by RunWaitJob; read by the busy view.
+extern qint16 gWaitJob;
+
+/// What a data transfer does.
+namespace XferMode {
+constexpr qint16 Download = 1; ///< data file to board
+constexpr qint16 Upload = 2;   ///< board to data file
+constexpr qint16 Datafile = 3; ///< the user's text file to board
+} // namespace XferMode
+/// Mode of the transfer. Written by the transfer commands; read by job 4 and its dialog.
+extern qint16 gXferMode;
+/// Board index of the program set. Written by the transfer commands; read by job 4 and its dialog.
+extern qint16 gXferBoard;
+/// Path of the file. Written by the transfer commands; read by job 4.
+extern QString gXferFile;
+/// First byte address, included; 0 for a datafile. Written by the dialog; read by job 4.
+extern qint16 gXferFrom;
+/// Last byte address, included; the count of items of a datafile. Written as gXferFrom.
+extern qint16 gXferTo;
