@@ -157,7 +157,7 @@ private:
     int AwaitReply();
     class WaitDisplay;
     bool InputArrives(double deadline, WaitDisplay& display);
-    bool InputArrives(double deadline);
+    bool InputArrivesWithin(double seconds);
     void SendByte(std::uint8_t byte);
     bool UserRetries(const QString& text);
     bool UserRetriesLine();
