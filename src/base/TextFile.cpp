@@ -9,7 +9,6 @@
 
 namespace {
 constexpr qsizetype longestItem = 16 * 1024 * 1024; // characters; no file of the system comes near
-constexpr int outOfMemory = 7;
 
 bool IsLineEnd(char byte) {
     return byte == '\r' || byte == '\n';
@@ -86,7 +85,7 @@ void TextReader::SkipToDelimiter() {
 
 void TextReader::Append(QByteArray& item, char byte) {
     if (item.size() >= longestItem)
-        throw RunTimeError(outOfMemory, QStringLiteral("Out of memory"));
+        throw RunTimeError(ErrorNumber::OutOfMemory);
     item.append(byte);
 }
 

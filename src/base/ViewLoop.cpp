@@ -1,6 +1,7 @@
 #include "base/ViewLoop.h"
 
 #include <algorithm>
+#include <QScopedValueRollback>
 #include <utility>
 
 namespace {
@@ -30,7 +31,7 @@ ViewLoopRunner::ViewLoopRunner(ModalTest blockedByModal, QObject* parent)
 void ViewLoopRunner::Activate(ViewLoop& loop) {
     Leave(loop);
     loops_.push_back(&loop);
-    Schedule(0);
+    Wake();
 }
 
 void ViewLoopRunner::Leave(ViewLoop& loop) {
@@ -40,6 +41,7 @@ void ViewLoopRunner::Leave(ViewLoop& loop) {
 }
 
 void ViewLoopRunner::Wake() {
+    woken_ = true;
     if (!loops_.empty())
         Schedule(0);
 }
@@ -49,7 +51,7 @@ ViewLoop* ViewLoopRunner::Current() const {
 }
 
 // A step that opens a message box turns the event loop inside itself: inStep_ keeps it from being
-// entered a second time.
+// entered a second time. What wakes the loops during a step is not lost in the rest after it.
 void ViewLoopRunner::Turn() {
     ViewLoop* loop = Current();
     if (!loop)
@@ -58,11 +60,16 @@ void ViewLoopRunner::Turn() {
         Schedule(restTime);
         return;
     }
-    inStep_ = true;
-    const ViewLoop::Step step = loop->TakeStep();
-    inStep_ = false;
+    woken_ = false;
+    const ViewLoop::Step step = StepOf(*loop);
     if (!loops_.empty())
-        Schedule(step == ViewLoop::Step::Worked ? 0 : restTime);
+        Schedule(step == ViewLoop::Step::Worked || woken_ ? 0 : restTime);
+}
+
+// The mark goes down on an error too: one failed step must not still every view for good.
+ViewLoop::Step ViewLoopRunner::StepOf(ViewLoop& loop) {
+    const QScopedValueRollback<bool> running(inStep_, true);
+    return loop.TakeStep();
 }
 
 void ViewLoopRunner::Schedule(int milliseconds) {

@@ -56,10 +56,12 @@ public:
 
 private:
     void Turn();
+    ViewLoop::Step StepOf(ViewLoop& loop);
     void Schedule(int milliseconds);
 
     ModalTest blockedByModal_;
     std::vector<ViewLoop*> loops_; // the last one is current
     QTimer timer_;
     bool inStep_ = false;
+    bool woken_ = false; // since the last step began
 };

@@ -16,6 +16,8 @@ void AppendFaultText(QString& text, const QString& key, const QString& path) {
     TextReader file(path);
     while (!file.AtEnd()) {
         const QString code = file.InputItem();
+        if (code.isEmpty() && file.AtEnd())
+            return; // an empty line at the end of the file is no pair cut short
         const QString description = file.InputItem();
         if (code.compare(key, Qt::CaseInsensitive) == 0) {
             text += description;

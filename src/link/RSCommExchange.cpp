@@ -1,6 +1,7 @@
 #include "base/Clock.h"
 #include "base/Dialogs.h"
 #include "base/MSComm.h"
+#include "base/RunTimeError.h"
 #include "link/RSComm.h"
 #include <algorithm>
 
@@ -11,7 +12,7 @@ constexpr double firstReplyTime = 1.0;  // seconds until the first time-out
 constexpr double resyncReplyTime = 2.0; // seconds after each resynchronising attention
 constexpr int timeOutsBeforeAlert = 3;  // 1 + 2 + 2 seconds on a dead line
 constexpr double handshakeTime = 2.0;   // seconds in which a mode must be entered
-constexpr double waitSlice = 0.1;       // seconds between looks at the busy display
+constexpr double waitSlice = 0.1;       // seconds between paints of a wait that is shown
 constexpr double quietWait = 0.25;      // seconds of a wait that the user is not shown
 
 QString CannotCommunicate() {
@@ -20,6 +21,37 @@ QString CannotCommunicate() {
                           "COMM Port and PROG Port.");
 }
 } // namespace
+
+// Tells the busy display of one wait, once it has become a long one, and of its end.
+class RSComm::WaitDisplay {
+public:
+    WaitDisplay(BusyDisplay& busy, const Clock& clock) : busy_(busy), clock_(clock) { Begin(); }
+    ~WaitDisplay() { End(); }
+    WaitDisplay(const WaitDisplay&) = delete;
+    WaitDisplay& operator=(const WaitDisplay&) = delete;
+
+    void Begin() { start_ = clock_.MonotonicSeconds(); }
+    void End() {
+        if (shown_)
+            busy_.WaitEnded();
+        shown_ = false;
+    }
+    // Shows a wait that has become long by `now`; gives the time of the next look at it.
+    double Look(double now) {
+        const double quietEnd = start_ + quietWait;
+        if (now < quietEnd)
+            return quietEnd;
+        busy_.StillWaiting(now - start_);
+        shown_ = true;
+        return now + waitSlice;
+    }
+
+private:
+    BusyDisplay& busy_;
+    const Clock& clock_;
+    double start_ = 0.0;
+    bool shown_ = false;
+};
 
 RSComm::RSComm(Dialogs& dialogs, Clock& clock, BusyDisplay& busy, const ApplicationFolder& folder)
     : dialogs_(dialogs), clock_(clock), busy_(busy), folder_(folder) {}
@@ -30,9 +62,20 @@ void RSComm::SendByte(std::uint8_t byte) {
     port_->Output(QByteArray(1, static_cast<char>(byte)));
 }
 
+// What the port itself raises is a link failure like any other: it stays inside the link.
 int RSComm::ExchangeByte(std::uint8_t byte, Reply reply, InputBuffer input) {
     if (commError_)
         return noReply;
+    try {
+        return ExchangeOverPort(byte, reply, input);
+    } catch (const RunTimeError&) {
+        linkMode_ = LinkMode::None;
+        commError_ = true;
+        return noReply;
+    }
+}
+
+int RSComm::ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input) {
     if (!port_ || !port_->PortOpen()) {
         linkMode_ = LinkMode::None;
         commError_ = true;
@@ -47,11 +90,13 @@ int RSComm::ExchangeByte(std::uint8_t byte, Reply reply, InputBuffer input) {
 }
 
 // Waits for the reply to a byte. After a time-out an attention byte is sent: what answers it is
-// returned as though it answered the byte first sent, and the callers notice by their echo.
+// returned as though it answered the byte first sent, and the callers notice by the link mode and
+// their echo.
 int RSComm::AwaitReply() {
+    WaitDisplay display(busy_, clock_);
     double deadline = clock_.MonotonicSeconds() + firstReplyTime;
     int timeOuts = 0;
-    while (!InputArrives(deadline)) {
+    while (!InputArrives(deadline, display)) {
         linkMode_ = LinkMode::None;
         commError_ = true;
         commErrorAlert_ = true;
@@ -62,8 +107,10 @@ int RSComm::AwaitReply() {
             SendByte(attention);
             continue;
         }
-        if (!UserRetries(CannotCommunicate()))
+        display.End();
+        if (!UserRetriesLine())
             return noReply;
+        display.Begin();
         timeOuts = 0;
     }
     const QByteArray received = port_->Input();
@@ -77,43 +124,33 @@ bool RSComm::UserRetries(const QString& text) {
     return answer == MsgAnswer::Retry;
 }
 
-// Waits for a received byte until `deadline`, in slices, so that a long wait can be shown. When
-// the port is lost on the way the time passes all the same: a time-out counts only when it is one.
-bool RSComm::InputArrives(double deadline) {
+bool RSComm::UserRetriesLine() {
+    return UserRetries(CannotCommunicate());
+}
+
+// Waits for a received byte until `deadline`. When the port is lost on the way the time passes all
+// the same: a time-out counts only when it is one.
+bool RSComm::InputArrives(double deadline, WaitDisplay& display) {
     if (port_->InBufferCount() >= 1)
         return true;
-    const double start = clock_.MonotonicSeconds();
-    bool shown = false;
-    bool arrived = false;
-    for (double now = start; !arrived && now < deadline; now = clock_.MonotonicSeconds()) {
-        if (now - start >= quietWait) {
-            busy_.StillWaiting(now - start);
-            shown = true;
-        }
-        const double sliceEnd = std::min(deadline, now + waitSlice);
-        arrived = port_->WaitForInput(sliceEnd);
+    for (;;) {
+        const double now = clock_.MonotonicSeconds();
+        if (now >= deadline)
+            return false;
+        const double sliceEnd = std::min(deadline, display.Look(now));
+        if (port_->WaitForInput(sliceEnd))
+            return true;
         const double left = sliceEnd - clock_.MonotonicSeconds();
-        if (!arrived && left > 0)
+        if (left > 0)
             clock_.Wait(left);
     }
-    if (shown)
-        busy_.WaitEnded();
-    return arrived;
 }
 
 void RSComm::WaitSeconds(double seconds) {
-    const double start = clock_.MonotonicSeconds();
-    const double deadline = start + seconds;
-    bool shown = false;
-    for (double now = start; now < deadline; now = clock_.MonotonicSeconds()) {
-        if (now - start >= quietWait) {
-            busy_.StillWaiting(now - start);
-            shown = true;
-        }
-        clock_.Wait(std::min(waitSlice, deadline - now));
-    }
-    if (shown)
-        busy_.WaitEnded();
+    WaitDisplay display(busy_, clock_);
+    const double deadline = clock_.MonotonicSeconds() + seconds;
+    for (double now = clock_.MonotonicSeconds(); now < deadline; now = clock_.MonotonicSeconds())
+        clock_.Wait(std::min(deadline, display.Look(now)) - now);
 }
 
 // Enters a link mode: attention and the mode byte, each to be acknowledged.

@@ -65,7 +65,7 @@ void RSComm::OpenRSComm(MSComm& CommObj) {
         CommObj.SetInBufferCount(0);
         linkMode_ = LinkMode::None;
         commError_ = false;
-        ExchangeByte(attention);
+        ExchangeOverPort(attention, Reply::Wait, InputBuffer::Keep);
         onlineMode_ = !commError_;
     } catch (const RunTimeError& error) {
         ReportPortError(error);
@@ -85,12 +85,8 @@ void RSComm::ReportPortError(const RunTimeError& error) {
 void RSComm::CloseRSComm() {
     const Operation operation(*this);
     if (port_ && port_->PortOpen()) {
-        try {
-            if (!commError_)
-                ExchangeByte(attention);
-        } catch (const RunTimeError&) {
-            // The port goes down whatever happens.
-        }
+        if (!commError_)
+            ExchangeByte(attention);
         try {
             port_->SetPortOpen(false);
         } catch (const RunTimeError&) {

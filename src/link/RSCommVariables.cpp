@@ -29,15 +29,14 @@ QString RSComm::RSRead(const QString& Add) {
 // Reads in a row carry no handshake, and the same variable again is not even parsed: two bytes
 // each way. That makes polling cheap.
 QString RSComm::ReadVariable(const QString& variable) {
-    if (linkMode_ != LinkMode::Read) {
-        if (!SetTargetMode(LinkMode::Read, readModeByte))
-            return QString();
+    const bool inReadMode = linkMode_ == LinkMode::Read;
+    if (!inReadMode || !lastVariable_ || lastVariable_->compare(variable, Qt::CaseInsensitive) != 0)
         ParseForReading(variable);
-    } else if (!lastVariable_ || lastVariable_->compare(variable, Qt::CaseInsensitive) != 0) {
-        ParseForReading(variable);
-    }
     lastVariable_ = variable;
-    RefuseBeyondMemory(parsed_.address, lastByteCount_);
+    if (!commError_)
+        RefuseBeyondMemory(parsed_.address, lastByteCount_);
+    if (!inReadMode && !SetTargetMode(LinkMode::Read, readModeByte))
+        return QString();
     for (int i = 0; i < lastByteCount_; ++i)
         if (!ReadByteAt(parsed_.address + i, lastBytes_[i]))
             return QString();
@@ -49,12 +48,16 @@ void RSComm::ParseForReading(const QString& variable) {
     lastByteCount_ = BytesOfWidth(parsed_.width);
 }
 
+// A time-out on the way puts the link mode to none: what then answered was the board's acknowledge
+// of an attention, and it waits for a command now. No part of an address may go out to it.
 bool RSComm::ReadByteAt(qint32 address, std::uint8_t& data) {
+    if (linkMode_ != LinkMode::Read)
+        return false;
     const int high = address / 256;
     const int echo = ExchangeByte(static_cast<std::uint8_t>(high));
     if (echo == noReply)
         return false;
-    if (echo != high) {
+    if (echo != high || linkMode_ != LinkMode::Read) {
         linkMode_ = LinkMode::None;
         return false;
     }
@@ -83,8 +86,10 @@ void RSComm::WriteVariable(const QString& Add, const QString& DataValue) {
     std::optional<double> value = NumberToWrite(DataValue);
     if (!value)
         return;
-    const ParsedAddress target = parsed_ = ParseAddress(Add);
-    RefuseBeyondMemory(target.address, BytesOfWidth(target.width));
+    const ParsedAddress target = ParseAddress(Add);
+    if (!commError_)
+        RefuseBeyondMemory(target.address, BytesOfWidth(target.width));
+    parsed_ = target;
     if (target.isBit) {
         value = ByteWithBit(target, *value);
         if (!value)
@@ -146,10 +151,12 @@ void RSComm::SendBytes(qint32 address, const QByteArray& bytes) {
     }
 }
 
+// After a time-out the reply is the acknowledge of an attention and no echo, even where the byte
+// sent has the same value; the board has left write mode.
 bool RSComm::EchoedAlike(std::uint8_t byte, bool& answered) {
     const int reply = ExchangeByte(byte);
     answered = reply != noReply;
-    return reply == byte;
+    return reply == byte && linkMode_ == LinkMode::Write;
 }
 
 // A refused write has parsed a variable that was not read: the next read must parse its own again.

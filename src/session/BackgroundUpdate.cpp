@@ -46,16 +46,15 @@ void BackgroundUpdate::NoticeModeChange() {
     lastOnlineMode_ = link_.OnlineMode();
 }
 
-// One read of the board at the most, and none while somebody else may use the line.
+// One read of the board at the most, and none while somebody else may use the line. A failure
+// without an alert is one too: a port that was lost between two exchanges timed nothing out.
 qint16 BackgroundUpdate::PollBoard() {
-    if (link_.CommErrorAlert()) {
-        if (link_.CommError()) {
-            systemMessage_ = SystemMessage(QStringLiteral("Comm Error with Target Board"));
-            mode_.RefreshCommMode();
-        }
+    if (link_.CommError()) {
+        systemMessage_ = SystemMessage(QStringLiteral("Comm Error with Target Board"));
+        mode_.RefreshCommMode();
         return 0;
     }
-    if (link_.InUploadMode() || link_.InProgramMode())
+    if (link_.CommErrorAlert() || link_.InUploadMode() || link_.InProgramMode())
         return 0;
     if (views_.IsViewVisible(targetBoard))
         return link_.FaultCode();

@@ -36,3 +36,35 @@ constexpr qint16 Trending = 3;
 } // namespace PrintContext
 /// Written by each view when it is activated; read by the toolbar's print button.
 extern qint16 gPrintContext;
+
+// The status table.
+
+/// Address texts last read from or written to a table file; entry i belongs to grid row i + 2.
+/// Written by the status table; read by it and by the job that fills the grid.
+extern QStringList gTableAddresses;
+/// File name of the table without its extension, empty for a table without a file. Written by the
+/// status table; read by reports.
+extern QString gTableTitle;
+/// Which kind of text column 0 of the status table shows; at most one is set. Written by the
+/// status table; read by its jobs and by reports.
+extern bool gViewNicNames;
+extern bool gViewDescriptions;
+/// Code of the job that runs or ran last (WaitJob). Written by RunWaitJob; read by the busy view.
+extern qint16 gWaitJob;
+
+/// What a data transfer does.
+namespace XferMode {
+constexpr qint16 Download = 1; ///< data file to board
+constexpr qint16 Upload = 2;   ///< board to data file
+constexpr qint16 Datafile = 3; ///< the user's text file to board
+} // namespace XferMode
+/// Mode of the transfer. Written by the transfer commands; read by job 4 and its dialog.
+extern qint16 gXferMode;
+/// Board index of the program set. Written by the transfer commands; read by job 4 and its dialog.
+extern qint16 gXferBoard;
+/// Path of the file. Written by the transfer commands; read by job 4.
+extern QString gXferFile;
+/// First byte address, included; 0 for a datafile. Written by the dialog; read by job 4.
+extern qint16 gXferFrom;
+/// Last byte address, included; the count of items of a datafile. Written as gXferFrom.
+extern qint16 gXferTo;

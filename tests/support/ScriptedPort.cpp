@@ -1,6 +1,8 @@
 #include "support/ScriptedPort.h"
 
 #include "base/RunTimeError.h"
+#include <algorithm>
+#include <QRegularExpression>
 
 void ScriptedPort::Reply(int byte, double after) {
     script_.push_back({byte, after});
@@ -26,17 +28,41 @@ void ScriptedPort::RefuseToOpen(int errorNumber, const QString& description) {
 }
 
 void ScriptedPort::SetCommPort(int port) {
+    if (open_)
+        throw RunTimeError(ErrorNumber::PortAlreadyOpen);
     if (portNumberRefusals_ > 0) {
         --portNumberRefusals_;
         throw RunTimeError(ErrorNumber::InvalidPortNumber);
     }
+    if (port < 1 || port > 99)
+        throw RunTimeError(ErrorNumber::InvalidPortNumber);
     commPort_ = port;
 }
 
+void ScriptedPort::SetSettings(const QString& settings) {
+    static const QRegularExpression form(QStringLiteral("^[0-9]+,n,8,1$"));
+    if (!form.match(settings).hasMatch())
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+    settings_ = settings;
+}
+
+void ScriptedPort::SetInputMode(int mode) {
+    if (mode != 1)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+}
+
 void ScriptedPort::SetPortOpen(bool open) {
+    if (open && open_)
+        throw RunTimeError(ErrorNumber::PortAlreadyOpen);
     if (open && refuseNumber_ != 0)
         throw RunTimeError(refuseNumber_, refuseDescription_);
     open_ = open;
+    arriving_.clear();
+}
+
+void ScriptedPort::Receive(const std::vector<int>& bytes) {
+    for (const int byte : bytes)
+        arriving_.push_back({byte, clock_.MonotonicSeconds()});
 }
 
 int ScriptedPort::InBufferCount() {
@@ -46,7 +72,9 @@ int ScriptedPort::InBufferCount() {
     return count;
 }
 
-void ScriptedPort::SetInBufferCount(int) {
+void ScriptedPort::SetInBufferCount(int count) {
+    if (count != 0)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
     while (InBufferCount() > 0)
         arriving_.pop_front();
 }
@@ -54,6 +82,8 @@ void ScriptedPort::SetInBufferCount(int) {
 void ScriptedPort::Output(const QByteArray& bytes) {
     if (!open_)
         return;
+    if (outputError_ != 0)
+        throw RunTimeError(outputError_);
     for (const char byte : bytes)
         AnswerByte(static_cast<std::uint8_t>(byte));
 }
@@ -67,17 +97,23 @@ void ScriptedPort::AnswerByte(int byte) {
         if (next.byte)
             arriving_.push_back({*next.byte, now + next.after});
     } else if (answersLikeBoard_) {
-        const bool acknowledged = byte == 0xFF || byte <= 0x03;
+        const bool acknowledged = byte == 0xFF || attended_;
         arriving_.push_back({acknowledged ? 0x55 : byte, now + 0.001});
     }
+    attended_ = byte == 0xFF;
+    if (bytesUntilLoss_ > 0 && --bytesUntilLoss_ == 0)
+        Lose();
 }
 
 QByteArray ScriptedPort::Input() {
-    if (InBufferCount() == 0)
-        return QByteArray();
-    const int byte = arriving_.front().byte;
-    arriving_.pop_front();
-    return QByteArray(1, static_cast<char>(byte));
+    const int waiting = InBufferCount();
+    const int wanted = inputLen_ == 0 ? waiting : std::min(inputLen_, waiting);
+    QByteArray bytes;
+    for (int i = 0; i < wanted; ++i) {
+        bytes.append(static_cast<char>(arriving_.front().byte));
+        arriving_.pop_front();
+    }
+    return bytes;
 }
 
 bool ScriptedPort::WaitForInput(double deadline) {

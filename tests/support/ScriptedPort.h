@@ -8,7 +8,8 @@
 #include <vector>
 
 /// A port whose other end answers from a script, for tests on the exact bytes: each byte sent
-/// takes the next reply. A missing reply is silence; a reply may be late.
+/// takes the next reply. A missing reply is silence; a reply may be late. Misuse raises what a
+/// real port raises.
 class ScriptedPort final : public MSComm {
 public:
     explicit ScriptedPort(VirtualClock& clock) : clock_(clock) {}
@@ -18,13 +19,20 @@ public:
     void Replies(const std::vector<int>& bytes);
     /// The next byte that is sent gets no answer.
     void Silence();
-    /// Every byte that has no scripted reply is echoed, attention and mode bytes are acknowledged.
+    /// Every byte that has no scripted reply is echoed, except that an attention and the command
+    /// byte after it are acknowledged.
     void AnswerLikeBoard(bool on) { answersLikeBoard_ = on; }
-    /// The device goes away.
+    /// Bytes that nobody asked for lie in the input buffer.
+    void Receive(const std::vector<int>& bytes);
+    /// The device goes away: at once, or as soon as this many more bytes were sent.
     void Lose();
-    /// SetPortOpen(true) raises this error number with this description.
+    void LoseAfter(int bytesSent) { bytesUntilLoss_ = bytesSent; }
+    /// SetPortOpen(true) raises this error number with this description; 0 ends that.
     void RefuseToOpen(int errorNumber, const QString& description);
+    /// The next `times` settings of the port number raise 8002.
     void RefusePortNumbers(int times) { portNumberRefusals_ = times; }
+    /// Each byte sent raises this error number; 0 ends that.
+    void RefuseOutput(int errorNumber) { outputError_ = errorNumber; }
 
     /// Bytes sent so far, in order.
     const std::vector<int>& Sent() const { return sent_; }
@@ -33,9 +41,9 @@ public:
     int CommPort() const override { return commPort_; }
     void SetCommPort(int port) override;
     QString Settings() const override { return settings_; }
-    void SetSettings(const QString& settings) override { settings_ = settings; }
-    void SetInputLen(int) override {}
-    void SetInputMode(int) override {}
+    void SetSettings(const QString& settings) override;
+    void SetInputLen(int length) override { inputLen_ = length; }
+    void SetInputMode(int mode) override;
     bool PortOpen() const override { return open_; }
     void SetPortOpen(bool open) override;
     int InBufferCount() override;
@@ -61,7 +69,11 @@ private:
     std::vector<int> sent_;
     bool answersLikeBoard_ = false;
     bool open_ = false;
+    bool attended_ = false; // the byte sent last was an attention
+    int bytesUntilLoss_ = -1;
+    int outputError_ = 0;
     int commPort_ = 1;
+    int inputLen_ = 0;
     QString settings_;
     int refuseNumber_ = 0;
     QString refuseDescription_;

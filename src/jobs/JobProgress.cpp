@@ -1,0 +1,3 @@
+#include "jobs/JobProgress.h"
+
+JobProgress::~JobProgress() = default;

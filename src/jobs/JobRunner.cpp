@@ -1,0 +1,3 @@
+#include "jobs/JobRunner.h"
+
+JobRunner::~JobRunner() = default;
