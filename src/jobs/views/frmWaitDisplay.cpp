@@ -104,7 +104,7 @@ void frmWaitDisplay::Load(const WaitJobFace& face) {
 // The top of the message comes to half the height of the frame.
 void frmWaitDisplay::LowerMessage() {
     const int without = fraWaitDisplay_->sizeHint().height();
-    const int above = margin + spacing + fraWaitDisplay_->frameWidth();
+    const int above = margin + fraWaitDisplay_->frameWidth();
     const int space = std::max(0, without - 2 * above);
     aboveMessage_->changeSize(0, space, QSizePolicy::Minimum, QSizePolicy::Fixed);
     fraWaitDisplay_->layout()->invalidate();
