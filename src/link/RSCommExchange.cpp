@@ -108,7 +108,7 @@ int RSComm::AwaitReply() {
             continue;
         }
         display.End();
-        if (!UserRetries(CannotCommunicate()))
+        if (!UserRetriesLine())
             return noReply;
         display.Begin();
         timeOuts = 0;
@@ -122,6 +122,10 @@ bool RSComm::UserRetries(const QString& text) {
     const int answer = dialogs_.MsgBox(text, MsgStyle::CriticalRetryCancel,
                                        QStringLiteral("WARNING - Communication Error!"));
     return answer == MsgAnswer::Retry;
+}
+
+bool RSComm::UserRetriesLine() {
+    return UserRetries(CannotCommunicate());
 }
 
 // Waits for a received byte until `deadline`. When the port is lost on the way the time passes all
