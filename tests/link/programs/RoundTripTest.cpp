@@ -22,7 +22,7 @@ QByteArray RandomImage(const haldenboard::BoardModel& model, unsigned seed) {
     return hex + ":00000001FF\r\n";
 }
 
-class RoundTrip : public BoardTest, public testing::WithParamInterface<int> {
+class DumpIntoBoard : public BoardTest {
 protected:
     void Dump(const QByteArray& hex, const QString& end, int style) {
         const QString path =
@@ -43,7 +43,9 @@ protected:
     }
 };
 
-class DumpWithFaults : public RoundTrip {
+class RoundTrip : public DumpIntoBoard, public testing::WithParamInterface<int> {};
+
+class DumpWithFaults : public DumpIntoBoard {
 protected:
     void SetUp() override {
         ConnectBoard(68);
@@ -126,6 +128,21 @@ TEST_F(DumpWithFaults, SilenceAtRecordNHaltsThere) {
         Dump(threeRecords, QStringLiteral("Checksum Error, Program Download Halted!"), 48);
         EXPECT_EQ(link.CurrentProgramAdd(), QStringLiteral("400%1H").arg(2 * n - 2));
         EXPECT_TRUE(board->InProgramMode());
+    }
+}
+
+TEST_F(DumpWithFaults, NamesWithQuotesBlanksAndAccentsTravelBothWays) {
+    for (const QString& base : {QStringLiteral("it's \"A\""), QStringLiteral("two  words"),
+                                QStringLiteral("M\u00FChle"), QStringLiteral("a,b%1")}) {
+        link.DownloadFile(WriteSet(base, 'D', "PUMP1:301\r\n", threeRecords));
+        dialogs.ExpectBoxTitled(QStringLiteral("Program Download - [PUMP1]"), MsgAnswer::Yes);
+        ExpectBox(QStringLiteral("Program Download Complete!"), 64, dumpTitle);
+        link.DumpProgram();
+        link.UploadFile(Path(base + QStringLiteral(".hdn")));
+        link.SetInUploadMode(true);
+        ExpectUploadComplete();
+        link.UploadProgram();
+        EXPECT_TRUE(Read(base + QStringLiteral(".hex")).startsWith(":10400000010203040506"));
     }
 }
 

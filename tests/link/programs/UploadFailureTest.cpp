@@ -90,6 +90,7 @@ TEST_F(UploadFailure, CableCutInTheImageLeavesTheOldImage) {
     ExpectNotComplete();
     Upload(52);
     EXPECT_FALSE(link.OnlineMode());
+    EXPECT_EQ(link.CurrentProgramAdd(), QStringLiteral("2050H"));
     EXPECT_EQ(Read(QStringLiteral("UP.hex")), "old image");
     EXPECT_NE(Read(QStringLiteral("UP.rev")), "old ident");
 }
