@@ -76,6 +76,7 @@ TEST_F(Mode, TheTickSaysOnline) {
 TEST_F(Mode, ALineThatIsCutShowsCommFaultUntilTheUserGoesOnlineAgain) {
     Start();
     QTest::keyClick(&Window(), Qt::Key_F3);
+    Tick();
     port_.Lose();
     Tick(); // the poll finds the port gone
     Tick();

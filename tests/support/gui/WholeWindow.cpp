@@ -117,6 +117,11 @@ QByteArrayList WholeWindow::RecentListOnDisk() const {
     return file.readAll().split('\n');
 }
 
+void WholeWindow::ForbidReading(const QString& path) {
+    QFile::setPermissions(root_.path(), QFile::Permissions::fromInt(0x7755));
+    QFile::setPermissions(path, {});
+}
+
 QString WholeWindow::AppPath(const QString& relative) const {
     return root_.filePath(QStringLiteral("app/") + relative);
 }

@@ -64,6 +64,8 @@ protected:
     /// Writes HD2000.dat with these lines.
     void WriteRecentList(const QByteArrayList& lines);
     QByteArrayList RecentListOnDisk() const;
+    /// Lets every user into the temporary folder, and nobody read this file.
+    void ForbidReading(const QString& path);
     QString AppPath(const QString& relative) const;
     QString SetPath(const QString& name) const;
 
