@@ -66,8 +66,10 @@ void frmMain::RefreshDirList() {
 }
 
 void frmMain::dirDirList_Change() {
+    const bool sameFolder = filFileList_->Path() == dirDirList_->Path();
     RefreshDirList();
-    filFileList_->Refresh();
+    if (sameFolder)
+        filFileList_->Refresh();
     trvHDNList_->clear();
     Q_EMIT SelectionChanged();
 }
@@ -83,10 +85,13 @@ void frmMain::RefreshFileList(const QString& path) {
     FillDrives();
     ShowDrive(gCurrentFolder);
     gCurrentDrive = drvDriveList_->currentData().toString();
-    dirDirList_->SetPath(gCurrentFolder);
-    dirDirList_->Refresh();
-    QDir::setCurrent(gCurrentFolder);
-    filFileList_->Refresh();
+    if (dirDirList_->Path() == gCurrentFolder) {
+        dirDirList_->Refresh();
+        filFileList_->Refresh();
+        QDir::setCurrent(gCurrentFolder);
+    } else {
+        dirDirList_->SetPath(gCurrentFolder);
+    }
     filFileList_->SelectFile(files_.GetFileName(path));
 }
 
