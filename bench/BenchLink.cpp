@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <stdexcept>
+#include <utility>
 
 namespace bench {
 
@@ -13,15 +14,17 @@ namespace {
 }
 } // namespace
 
-void BenchDialogs::Answer(const QString& title, int answer) {
-    answeredTitle_ = title;
-    answer_ = answer;
+void BenchDialogs::Expect(const QString& title, int answer, std::function<void()> meanwhile) {
+    expected_.push_back({title, answer, std::move(meanwhile)});
 }
 
 int BenchDialogs::MsgBox(const QString& text, int, const QString& title) {
-    if (title != answeredTitle_)
+    if (expected_.empty() || title != expected_.front().title)
         Unexpected(title, text);
-    return answer_;
+    const Expected expected = std::move(expected_.front());
+    expected_.pop_front();
+    expected.meanwhile();
+    return expected.answer;
 }
 
 QString BenchDialogs::InputBox(const QString& prompt, const QString& title, const QString&) {

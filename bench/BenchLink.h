@@ -4,17 +4,20 @@
 #include "base/Clock.h"
 #include "base/Dialogs.h"
 #include "base/port/SerialMSComm.h"
+#include "bench/CountingPort.h"
 #include "link/RSComm.h"
+#include <deque>
+#include <functional>
 #include <QTemporaryDir>
 
 namespace bench {
 
-/// Nobody is there to answer a prompt: a box means that the measurement failed. Boxes that are
-/// part of the work measured are named before it.
+/// Nobody is there to answer a prompt: a box means that the measurement failed, but for those that
+/// are part of the work measured and are named before it.
 class BenchDialogs final : public Dialogs {
 public:
-    /// The next boxes with this title are answered so; `text` tells what they said.
-    void Answer(const QString& title, int answer);
+    /// The next box must have this title; `meanwhile` runs, and it is answered with `answer`.
+    void Expect(const QString& title, int answer, std::function<void()> meanwhile);
     int MsgBox(const QString& text, int style, const QString& title) override;
     QString InputBox(const QString& prompt, const QString& title,
                      const QString& defaultText) override;
@@ -23,8 +26,12 @@ public:
     PrinterChoice ShowPrinter() override;
 
 private:
-    QString answeredTitle_;
-    int answer_ = 0;
+    struct Expected {
+        QString title;
+        int answer;
+        std::function<void()> meanwhile;
+    };
+    std::deque<Expected> expected_;
 };
 
 /// The link of the program on a real port, with settings of its own, as the program has it.
@@ -35,7 +42,7 @@ public:
     BenchLink(const QString& device, int baud);
     ~BenchLink();
 
-    /// Runs statements on the link, and raises std::runtime_error when it has failed since.
+    /// Raises std::runtime_error when the link has failed since.
     void Check() const;
 
     BenchDialogs dialogs;
@@ -43,7 +50,8 @@ public:
     NoBusyDisplay busy;
     QTemporaryDir directory;
     ApplicationFolder folder{directory.path()};
-    SerialMSComm port{clock, folder};
+    SerialMSComm serial{clock, folder};
+    CountingPort port{serial};
     RSComm link{dialogs, clock, busy, folder};
 };
 

@@ -17,6 +17,7 @@ class Dialogs;
 class HexImage;
 class MSComm;
 class RunTimeError;
+class WaitDisplay;
 struct HexLine;
 
 /// Result of an exchange that got no reply; no byte has this value.
@@ -155,8 +156,8 @@ private:
                      InputBuffer input = InputBuffer::Keep);
     int ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input);
     int AwaitReply();
-    class WaitDisplay;
     bool InputArrives(double deadline, WaitDisplay& display);
+    bool InputArrivesWithin(double seconds);
     void SendByte(std::uint8_t byte);
     bool UserRetries(const QString& text);
     bool UserRetriesLine();

@@ -1,4 +1,3 @@
-#include "base/Clock.h"
 #include "base/Dialogs.h"
 #include "base/DoEvents.h"
 #include "base/MSComm.h"
@@ -50,7 +49,7 @@ bool RSComm::SendRecord(const HexLine& record, std::optional<std::uint8_t>& last
 // a link failure like any other.
 std::optional<std::uint8_t> RSComm::RecordReply() {
     try {
-        if (!InputArrives(clock_.MonotonicSeconds() + recordReplyTime))
+        if (!InputArrivesWithin(recordReplyTime))
             return std::nullopt;
         const QByteArray received = port_->Input();
         if (!received.isEmpty())

@@ -26,7 +26,9 @@ QString ForbiddenText(const LinuxPort::Node& node) {
 
 QString BusyText(const PortFacts& facts) {
     if (facts.holders.empty())
-        return QStringLiteral(" is in use by another program. Close that program first.");
+        return QStringLiteral(" is in use by another program, or cannot be locked against others: "
+                              "%1.")
+            .arg(facts.systemText);
     const LinuxPort::Holder& holder = facts.holders.front();
     if (holder.process == facts.ownProcess)
         return QStringLiteral(" is already open in this program (process %1).").arg(holder.process);

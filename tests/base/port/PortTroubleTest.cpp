@@ -99,10 +99,11 @@ TEST(PortTrouble, BusyDeviceOfThisProgram) {
 
 TEST(PortTrouble, BusyDeviceOfSomebodyUnknown) {
     PortFacts facts = Usable();
+    facts.systemText = QStringLiteral("Permission denied");
     facts.refusedAsBusy = true;
     ExpectTrouble(facts, Kind::Busy, ErrorNumber::PortAlreadyOpen,
-                  "The device /dev/ttyUSB0 (COM33) is in use by another program. Close that "
-                  "program first.");
+                  "The device /dev/ttyUSB0 (COM33) is in use by another program, or cannot be "
+                  "locked against others: Permission denied.");
 }
 
 TEST(PortTrouble, DeviceThatTheSystemRefuses) {
