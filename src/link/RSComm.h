@@ -157,6 +157,7 @@ private:
     int ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input);
     int AwaitReply();
     bool InputArrives(double deadline, WaitDisplay& display);
+    bool InputArrivesWithin(double seconds);
     void SendByte(std::uint8_t byte);
     bool UserRetries(const QString& text);
     bool UserRetriesLine();

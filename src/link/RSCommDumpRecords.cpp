@@ -1,11 +1,9 @@
-#include "base/Clock.h"
 #include "base/Dialogs.h"
 #include "base/DoEvents.h"
 #include "base/MSComm.h"
 #include "base/RunTimeError.h"
 #include "link/HexImage.h"
 #include "link/RSComm.h"
-#include "link/WaitDisplay.h"
 
 namespace {
 constexpr double recordReplyTime = 1.0; // seconds in which the board answers a record
@@ -51,8 +49,7 @@ bool RSComm::SendRecord(const HexLine& record, std::optional<std::uint8_t>& last
 // a link failure like any other.
 std::optional<std::uint8_t> RSComm::RecordReply() {
     try {
-        WaitDisplay display(busy_, clock_);
-        if (!InputArrives(clock_.MonotonicSeconds() + recordReplyTime, display))
+        if (!InputArrivesWithin(recordReplyTime))
             return std::nullopt;
         const QByteArray received = port_->Input();
         if (!received.isEmpty())

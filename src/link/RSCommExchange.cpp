@@ -96,6 +96,11 @@ bool RSComm::UserRetriesLine() {
     return UserRetries(CannotCommunicate());
 }
 
+bool RSComm::InputArrivesWithin(double seconds) {
+    WaitDisplay display(busy_, clock_);
+    return InputArrives(clock_.MonotonicSeconds() + seconds, display);
+}
+
 // Waits for a received byte until `deadline`. When the port is lost on the way the time passes all
 // the same: a time-out counts only when it is one.
 bool RSComm::InputArrives(double deadline, WaitDisplay& display) {

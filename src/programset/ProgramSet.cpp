@@ -57,6 +57,8 @@ QString HdnMember(const QStringList& members, const QString& selected) {
 
 QStringList SetMembers(const QString& folder, const QString& baseName) {
     QStringList members;
+    if (baseName.isEmpty()) // ".profile" is nobody's sibling
+        return members;
     ForEachFile(folder, [&members, &baseName](const QString& name) {
         if (BaseName(name).compare(baseName, Qt::CaseInsensitive) == 0)
             members.append(name);

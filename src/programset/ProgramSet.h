@@ -8,7 +8,7 @@
 /// case apart. Members are always found in one pass over the folder.
 
 /// Names, as on disk and in name order, of the plain files of `folder` whose base name is
-/// `baseName`. Empty when the folder cannot be read.
+/// `baseName`. Empty when the folder cannot be read, and for an empty base name.
 QStringList SetMembers(const QString& folder, const QString& baseName);
 
 /// Names, as on disk, of the .hdn files of `folder`, in the order of their names without letter

@@ -16,9 +16,9 @@ struct ShellSituation {
     bool plsBoard = false;        ///< TargetboardType is a limit switch board
     bool recentListShown = false; ///< the recent list was read or written once
     std::array<bool, recentCount> recentShown{};
-    bool resultsFound = false;    ///< a search has left results to view
-    bool tableCanFind = false;    ///< the status table can start a search
-    QSet<QString> handled;        ///< entries that have a handler in this build
+    bool resultsFound = false; ///< a search has left results to view
+    bool tableCanFind = false; ///< the status table can start a search
+    QSet<QString> handled;     ///< entries that have a handler in this build
 };
 
 /// How one entry stands.

@@ -53,13 +53,13 @@ void CommandSurface::AddEntry(QMenu& menu, const MenuEntry& entry) {
 }
 
 void CommandSurface::BuildToolbar(QMainWindow& window) {
-    auto* toolbar = new QToolBar(QStringLiteral("Toolbar"), &window);
-    toolbar->setObjectName(QStringLiteral("Toolbar1"));
-    toolbar->setMovable(false);
-    toolbar->setIconSize(QSize(toolbarIconSize, toolbarIconSize));
+    toolbar_ = new QToolBar(QStringLiteral("Toolbar"), &window);
+    toolbar_->setObjectName(QStringLiteral("Toolbar1"));
+    toolbar_->setMovable(false);
+    toolbar_->setIconSize(QSize(toolbarIconSize, toolbarIconSize));
     for (const ToolbarEntry& entry : ToolbarTable())
-        AddButton(*toolbar, entry);
-    window.addToolBar(toolbar);
+        AddButton(*toolbar_, entry);
+    window.addToolBar(toolbar_);
 }
 
 void CommandSurface::AddButton(QToolBar& toolbar, const ToolbarEntry& entry) {
@@ -137,5 +137,23 @@ void CommandSurface::Apply(const CommandState& state) {
     for (const ToolbarEntry& button : ToolbarTable()) {
         if (QAction* action = Action(QString::fromLatin1(button.key)))
             put(*action, state.Button(button));
+    }
+    HideIdleSeparators();
+}
+
+// A separator shows only between visible buttons.
+void CommandSurface::HideIdleSeparators() {
+    QAction* pending = nullptr;
+    bool buttonBefore = false;
+    for (QAction* action : toolbar_->actions()) {
+        if (action->isSeparator()) {
+            action->setVisible(false);
+            pending = action;
+        } else if (action->isVisible()) {
+            if (pending && buttonBefore)
+                pending->setVisible(true);
+            pending = nullptr;
+            buttonBefore = true;
+        }
     }
 }

@@ -49,11 +49,13 @@ private:
     void AddEntry(QMenu& menu, const MenuEntry& entry);
     void BuildToolbar(QMainWindow& window);
     void AddButton(QToolBar& toolbar, const ToolbarEntry& entry);
+    void HideIdleSeparators();
     void Guarded(const Handler& handler);
 
     Dialogs& dialogs_;
     std::map<QString, QMenu*> menus_;
     std::map<QString, QAction*> actions_;
     std::map<QString, Handler> handlers_;
+    QToolBar* toolbar_ = nullptr;
     ButtonHandler buttonHandler_;
 };

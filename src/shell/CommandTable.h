@@ -13,8 +13,8 @@ enum class CommandStart {
 
 /// One entry of a menu.
 struct MenuEntry {
-    const char* name;    ///< object name; empty for a separator without one
-    const char* caption; ///< "&" marks the mnemonic; empty for a separator
+    const char* name;     ///< object name; empty for a separator without one
+    const char* caption;  ///< "&" marks the mnemonic; empty for a separator
     const char* key = ""; ///< key sequence, or empty
     CommandStart start = CommandStart::Shown;
     bool checkable = false;
@@ -30,12 +30,13 @@ struct MenuTable {
 
 /// One button of Toolbar1.
 struct ToolbarEntry {
-    int index;           ///< 1 to 18, separators counted
-    const char* key;     ///< object name; empty for a separator
+    int index;       ///< 1 to 18, separators counted
+    const char* key; ///< object name; empty for a separator
     const char* toolTip;
     CommandStart start = CommandStart::Shown;
     bool takesSelection = false; ///< a press takes gHdnFile from the browser first
-    const char* plcCommand = ""; ///< entry whose handler a press runs, the button's own key if empty
+    const char* plcCommand =
+        ""; ///< entry whose handler a press runs, the button's own key if empty
     const char* plsCommand = ""; ///< the same for a set of a limit switch board, if it differs
 };
 

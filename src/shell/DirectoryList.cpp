@@ -35,9 +35,8 @@ DirectoryList::DirectoryList(QWidget* parent) : QTreeWidget(parent) {
     setTabKeyNavigation(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     header()->setStretchLastSection(false);
-    connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
-        Enter(item);
-    });
+    connect(this, &QTreeWidget::itemDoubleClicked, this,
+            [this](QTreeWidgetItem* item) { Enter(item); });
     connect(this, &QTreeWidget::itemClicked, this, [this] { Q_EMIT Clicked(); });
     path_ = ExistingFolder(QDir::currentPath());
     Refresh();
@@ -79,6 +78,12 @@ QTreeWidgetItem* DirectoryList::AddFolder(QTreeWidgetItem* parent, const QString
     item->setIcon(0, open ? openIcon : closedIcon);
     item->setData(0, pathRole, path);
     return item;
+}
+
+// The column is never narrower than the list, so that the whole row shows what is selected.
+void DirectoryList::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    header()->setMinimumSectionSize(viewport()->width());
 }
 
 void DirectoryList::Enter(const QTreeWidgetItem* item) {

@@ -25,6 +25,9 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    /// The folders always stand open: there is nothing to fold.
+    void drawBranches(QPainter*, const QRect&, const QModelIndex&) const override {}
 
 private:
     QTreeWidgetItem* AddFolder(QTreeWidgetItem* parent, const QString& path, const QString& name,

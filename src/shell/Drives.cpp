@@ -9,10 +9,10 @@ Drives::~Drives() = default;
 namespace {
 bool HoldsUserFiles(const QStorageInfo& volume) {
     const QString root = volume.rootPath();
-    static const QStringList systemFolders = {
-        QStringLiteral("/boot"), QStringLiteral("/dev"),  QStringLiteral("/proc"),
-        QStringLiteral("/run"),  QStringLiteral("/snap"), QStringLiteral("/sys"),
-        QStringLiteral("/var/lib"), QStringLiteral("/etc")};
+    static const QStringList systemFolders = {QStringLiteral("/boot"),    QStringLiteral("/dev"),
+                                              QStringLiteral("/proc"),    QStringLiteral("/run"),
+                                              QStringLiteral("/snap"),    QStringLiteral("/sys"),
+                                              QStringLiteral("/var/lib"), QStringLiteral("/etc")};
     if (root.startsWith(QStringLiteral("/run/media/")) || root == QStringLiteral("/"))
         return true;
     for (const QString& folder : systemFolders) {
@@ -43,8 +43,8 @@ bool SystemDrives::IsReady(const QString& drive) const {
 QString DriveOfPath(const QStringList& drives, const QString& path) {
     QString longest;
     for (const QString& drive : drives) {
-        const bool within = path == drive ||
-                            path.startsWith(drive.endsWith(u'/') ? drive : drive + u'/');
+        const bool within =
+            path == drive || path.startsWith(drive.endsWith(u'/') ? drive : drive + u'/');
         if (within && drive.size() > longest.size())
             longest = drive;
     }

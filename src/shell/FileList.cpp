@@ -1,13 +1,24 @@
 #include "shell/FileList.h"
 
 #include "programset/ProgramSet.h"
+#include "shell/Icons.h"
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
+namespace {
+constexpr int iconSize = 16; // pixels at 100 per cent
+} // namespace
+
+QVariant FileListModel::data(const QModelIndex& index, int role) const {
+    static const QIcon icon = ShellIcon(QStringLiteral("TreeImage1"));
+    return role == Qt::DecorationRole ? QVariant(icon) : QStringListModel::data(index, role);
+}
+
 FileList::FileList(QWidget* parent) : QListView(parent) {
     setModel(&names_);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setIconSize(QSize(iconSize, iconSize));
     setUniformItemSizes(true); // a folder may hold thousands of sets
     setTabKeyNavigation(false);
 }

@@ -3,6 +3,14 @@
 #include <QListView>
 #include <QStringListModel>
 
+/// The names of the list, each with the icon of a program set.
+class FileListModel : public QStringListModel {
+    Q_OBJECT
+public:
+    using QStringListModel::QStringListModel;
+    QVariant data(const QModelIndex& index, int role) const override;
+};
+
 /// The list of the program set files (*.hdn, in any letter case) of one folder.
 class FileList : public QListView {
     Q_OBJECT
@@ -39,7 +47,7 @@ protected:
 
 private:
     QString path_;
-    QStringListModel names_;
+    FileListModel names_;
     bool refreshing_ = false;
     bool currentMoved_ = false;
 };

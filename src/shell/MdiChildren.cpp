@@ -62,7 +62,8 @@ void MdiChildren::Place(QMdiSubWindow& frame) const {
     }
     const QSize wanted = frame.sizeHint().expandedTo(frame.minimumSizeHint());
     const int step = cascadeStep * static_cast<int>(frames_.size() - 1);
-    QSize size(qMax(wanted.width(), free.width() - step), qMax(wanted.height(), free.height() - step));
+    QSize size(qMax(wanted.width(), free.width() - step),
+               qMax(wanted.height(), free.height() - step));
     size = size.boundedTo(whole.size());
     const int x = qMin(free.left() + step, whole.width() - size.width());
     const int y = qMin(free.top() + step, whole.height() - size.height());

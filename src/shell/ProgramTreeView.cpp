@@ -53,6 +53,12 @@ void ProgramTreeView::TakeKey(const QTreeWidgetItem* item) {
     selectedKey_ = item->data(0, keyRole).toString().toUpper();
 }
 
+// The column is never narrower than the tree, so that the whole row shows what is selected.
+void ProgramTreeView::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    header()->setMinimumSectionSize(viewport()->width());
+}
+
 void ProgramTreeView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter || !currentItem()) {

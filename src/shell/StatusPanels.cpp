@@ -3,11 +3,15 @@
 #include "base/Clock.h"
 #include <QLocale>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QStyle>
 
 namespace {
-constexpr int panelMargin = 6; // pixels left and right of a text
+constexpr int panelMargin = 3; // pixels around a text
+
+const QColor lampOn(0x2f, 0x9e, 0x5f);
+const QColor lampOff(0x8a, 0x92, 0x9a);
 
 struct PanelTexts {
     const char* key;
@@ -22,15 +26,36 @@ constexpr std::array<PanelTexts, 4> panelTexts = {{
     {"DATE", "", "Current Date", 0},
     {"TIME", "", "Current Time", 0},
 }};
+
+// The short time of the locale, to the minute.
+QString TimeFormat() {
+    static const QRegularExpression seconds(QStringLiteral("[:.]?s{1,2}"));
+    return QLocale().timeFormat(QLocale::ShortFormat).remove(seconds);
+}
 } // namespace
 
 StatusPanel::StatusPanel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
-    setContentsMargins(panelMargin, 1, panelMargin, 1);
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    setMargin(panelMargin);
+}
+
+void StatusPanel::SetLamp(bool lit) {
+    lamp_ = lit;
+    updateGeometry();
+    update();
+}
+
+int StatusPanel::LampWidth() const {
+    return lamp_ ? fontMetrics().xHeight() * 2 : 0;
+}
+
+QSize StatusPanel::sizeHint() const {
+    return QLabel::sizeHint() + QSize(LampWidth(), 0);
 }
 
 QSize StatusPanel::minimumSizeHint() const {
-    const QSize hint = QLabel::minimumSizeHint();
+    const QSize hint = QLabel::minimumSizeHint() + QSize(LampWidth(), 0);
     return sizePolicy().horizontalPolicy() == QSizePolicy::Ignored ? QSize(0, hint.height()) : hint;
 }
 
@@ -40,7 +65,16 @@ void StatusPanel::mouseDoubleClickEvent(QMouseEvent*) {
 
 void StatusPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QRect place = contentsRect();
+    drawFrame(&painter);
+    QRect place = contentsRect().marginsRemoved({panelMargin, 0, panelMargin, 0});
+    if (lamp_) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(*lamp_ ? lampOn : lampOff);
+        const int radius = fontMetrics().xHeight() / 2;
+        painter.drawEllipse(QPoint(place.left() + radius, place.center().y() + 1), radius, radius);
+        place.setLeft(place.left() + LampWidth());
+    }
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, place.width());
     style()->drawItemText(&painter, place, static_cast<int>(alignment()), palette(), isEnabled(),
                           shown, foregroundRole());
@@ -51,7 +85,8 @@ StatusPanels::StatusPanels(QStatusBar& bar, Clock& clock) : QObject(&bar), clock
     for (int panel = systemMessage; panel <= time; ++panel)
         AddPanel(bar, panel,
                  QString::fromLatin1(panelTexts[static_cast<std::size_t>(panel - 1)].initialText));
-    panels_[mode - 1]->setAlignment(Qt::AlignCenter);
+    ShowMode(false);
+    panels_[mode - 1]->setMinimumWidth(panels_[mode - 1]->sizeHint().width());
     nextMinute_.setSingleShot(true);
     connect(&nextMinute_, &QTimer::timeout, this, &StatusPanels::ShowDateAndTime);
     ShowDateAndTime();
@@ -81,10 +116,15 @@ QString StatusPanels::Text(int panel) const {
     return panels_[static_cast<std::size_t>(panel - 1)]->text();
 }
 
+void StatusPanels::ShowMode(bool online) {
+    SetText(mode, online ? QStringLiteral("ONLINE") : QStringLiteral("OFFLINE"));
+    panels_[mode - 1]->SetLamp(online);
+}
+
 void StatusPanels::ShowDateAndTime() {
     const QDateTime now = clock_.WallClock();
     SetText(date, QLocale().toString(now.date(), QLocale::ShortFormat));
-    SetText(time, QLocale().toString(now.time(), QLocale::ShortFormat));
+    SetText(time, QLocale().toString(now.time(), TimeFormat()));
     constexpr int minute = 60 * 1000;
     nextMinute_.start(minute - now.time().msecsSinceStartOfDay() % minute);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <QLabel>
 #include <QTimer>
 
@@ -14,6 +15,9 @@ class StatusPanel : public QLabel {
 public:
     explicit StatusPanel(QWidget* parent = nullptr);
     QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+    /// A lamp before the text: lit or not. Without a call there is none.
+    void SetLamp(bool lit);
 
 Q_SIGNALS:
     void DoubleClicked();
@@ -21,6 +25,10 @@ Q_SIGNALS:
 protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    int LampWidth() const;
+    std::optional<bool> lamp_;
 };
 
 /// The four panels of sbrMain, counted from 1: system message, mode, date and time. Date and time
@@ -37,6 +45,8 @@ public:
 
     void SetText(int panel, const QString& text);
     QString Text(int panel) const;
+    /// Writes the mode of the link and lights its lamp while it is online.
+    void ShowMode(bool online);
     /// Puts the wall clock's date and time into their panels.
     void ShowDateAndTime();
 

@@ -17,9 +17,9 @@ frmMDIMain::frmMDIMain(const ShellContext& context)
     BuildForm();
     programs_ = std::make_unique<ProgramCommands>(context_.link, mode_, context_.dialogs,
                                                   context_.files, *browser_, *timer_, views_);
-    recent_ = std::make_unique<RecentMenu>(
-        context_.folder.Path(QStringLiteral("support/HD2000.dat")), *surface_, context_.files,
-        *browser_, *programs_);
+    recent_ =
+        std::make_unique<RecentMenu>(context_.folder.Path(QStringLiteral("support/HD2000.dat")),
+                                     *surface_, context_.files, *browser_, *programs_);
     RegisterCommands();
     ConnectBrowser();
     RefreshCommandState();
@@ -123,8 +123,7 @@ void frmMDIMain::ShowSystemMessage(const QString& text) {
 }
 
 void frmMDIMain::ShowMode(bool online) {
-    panels_->SetText(StatusPanels::mode,
-                     online ? QStringLiteral("ONLINE") : QStringLiteral("OFFLINE"));
+    panels_->ShowMode(online);
     RefreshCommandState();
 }
 

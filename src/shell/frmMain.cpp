@@ -115,6 +115,8 @@ void frmMain::ShowDrive(const QString& path) {
 }
 
 void frmMain::drvDriveList_Change() {
+    if (drvDriveList_->currentIndex() == rememberedDrive_)
+        return;
     const QString drive = drvDriveList_->currentData().toString();
     if (!drives_.IsReady(drive)) {
         dialogs_.MsgBox(QStringLiteral("Selected Drive is Not Ready."), MsgStyle::Information,

@@ -3,8 +3,8 @@
 #include "shell/frmMain.h"
 #include "shell/ProgramTreeView.h"
 #include <QComboBox>
-#include <QFrame>
 #include <QLabel>
+#include <QPainter>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -15,6 +15,15 @@ namespace {
 constexpr int listsWidth = 500; // pixels at first; the user drags it wider
 constexpr int foldersWidth = 235;
 constexpr int spacing = 6;
+
+// Where the other views open: a shade darker than the window.
+class FreeGround : public QWidget {
+protected:
+    void paintEvent(QPaintEvent*) override {
+        constexpr int shade = 107; // per cent
+        QPainter(this).fillRect(rect(), palette().color(QPalette::Window).darker(shade));
+    }
+};
 
 QSplitter* Splitter(Qt::Orientation orientation) {
     auto* splitter = new QSplitter(orientation);
@@ -55,26 +64,23 @@ void frmMain::BuildForm() {
     placesLayout->setContentsMargins(0, 0, 0, 0);
     placesLayout->setSpacing(spacing);
     placesLayout->addWidget(
-        LabelledList(0, QStringLiteral("Dri&ve:"), QStringLiteral("drvDriveList"), drvDriveList_));
+        LabelledList(0, QStringLiteral("D&rive:"), QStringLiteral("drvDriveList"), drvDriveList_));
     placesLayout->addWidget(
         LabelledList(1, QStringLiteral("Fol&ders:"), QStringLiteral("dirDirList"), dirDirList_), 1);
 
     QSplitter* upper = Splitter(Qt::Horizontal);
     upper->addWidget(places);
-    upper->addWidget(LabelledList(2, QStringLiteral("&Programs:"), QStringLiteral("filFileList"),
-                                  filFileList_));
+    upper->addWidget(
+        LabelledList(2, QStringLiteral("&Programs:"), QStringLiteral("filFileList"), filFileList_));
     upper->setSizes({foldersWidth, listsWidth - foldersWidth});
     QSplitter* left = Splitter(Qt::Vertical);
     left->addWidget(upper);
-    left->addWidget(LabelledList(3, QStringLiteral("Program &set:"), QStringLiteral("trvHDNList"),
+    left->addWidget(LabelledList(3, QStringLiteral("Pro&gram set:"), QStringLiteral("trvHDNList"),
                                  trvHDNList_));
     left->setStretchFactor(0, 3);
     left->setStretchFactor(1, 2);
 
-    auto* freeArea = new QFrame;
-    freeArea->setObjectName(QStringLiteral("fraFree"));
-    freeArea->setBackgroundRole(QPalette::Mid);
-    freeArea->setAutoFillBackground(true);
+    auto* freeArea = new FreeGround;
     lists_ = Splitter(Qt::Horizontal);
     lists_->addWidget(left);
     lists_->addWidget(freeArea);

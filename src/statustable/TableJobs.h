@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class JobProgress;
+
 /// The rows of the status table as its two jobs see them.
 class TableRows {
 public:
@@ -16,22 +18,9 @@ public:
     virtual QString Nicname(const QString& address) const = 0;
 };
 
-/// Progress bar and Cancel button of a job.
-class TableJobProgress {
-public:
-    virtual ~TableJobProgress();
-    /// The bar runs from 0 to `max`.
-    virtual void SetMax(int max) = 0;
-    virtual void SetValue(int value) = 0;
-    /// Lets the user press Cancel.
-    virtual void Yield() = 0;
-    /// Whether Cancel was pressed; asking clears it.
-    virtual bool TakeCancel() = 0;
-};
-
 /// Writes the address texts of gTableAddresses into column 1 and scrolls to the first row. Cancel
 /// leaves the rows written so far.
-void ReadAddresses(TableRows& table, TableJobProgress& progress);
+void ReadAddresses(TableRows& table, JobProgress& progress);
 
 /// Writes the name of each row's variable into column 0; a row whose name fails is passed over.
-void ReadNames(TableRows& table, TableJobProgress& progress);
+void ReadNames(TableRows& table, JobProgress& progress);

@@ -20,7 +20,7 @@ protected:
 } // namespace
 
 TEST_F(DataDownload, RangeOfOneAddressWritesThatByteAlone) {
-    WriteFile(gXferFile, "12:;00\r\n");
+    WriteFile(fileName, "12:;00\r\n");
     SetTransfer(XferMode::Download, k2014, 71, 71);
     BoardTakes({{71, 0x12}});
     Transfer();
@@ -28,7 +28,7 @@ TEST_F(DataDownload, RangeOfOneAddressWritesThatByteAlone) {
 }
 
 TEST_F(DataDownload, OnStandardImageTheFirstPairLandsAtTheStartOfTheRange) {
-    WriteFile(gXferFile, "0102030405060708090:0;0<\r\n");
+    WriteFile(fileName, "0102030405060708090:0;0<\r\n");
     SetTransfer(XferMode::Download, k2014, 100, 110);
     const auto expected = Run(100, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
     BoardTakes(expected);
@@ -37,7 +37,7 @@ TEST_F(DataDownload, OnStandardImageTheFirstPairLandsAtTheStartOfTheRange) {
 }
 
 TEST_F(DataDownload, OnBoard50ARangePicksTheBytesOfItsAddresses) {
-    WriteFile(gXferFile, LargeLine(600));
+    WriteFile(fileName, LargeLine(600));
     SetTransfer(XferMode::Download, k2012, 150, 155);
     const auto expected = Run(150, {150, 151, 152, 153, 154, 155});
     BoardTakes(expected);
@@ -46,7 +46,7 @@ TEST_F(DataDownload, OnBoard50ARangePicksTheBytesOfItsAddresses) {
 }
 
 TEST_F(DataDownload, StandardRangeOfBoard50WritesNothingTo156To511) {
-    WriteFile(gXferFile, LargeLine(8176));
+    WriteFile(fileName, LargeLine(8176));
     SetTransfer(XferMode::Download, k2012, 32, 8175);
     std::vector<BoardByte> expected;
     for (int address = 32; address <= 8175; ++address)
@@ -63,7 +63,7 @@ TEST_F(DataDownload, StandardRangeOfBoard50WritesNothingTo156To511) {
 }
 
 TEST_F(DataDownload, Board68SkipsLikewise) {
-    WriteFile(gXferFile, LargeLine(7168));
+    WriteFile(fileName, LargeLine(7168));
     SetTransfer(XferMode::Download, r6500, 155, 512);
     BoardTakes({{155, 155}, {512, 10}});
     Transfer();
@@ -78,7 +78,7 @@ TEST_F(DataDownload, MissingFileWritesZeroToEveryAddress) {
 }
 
 TEST_F(DataDownload, EmptyFileWritesZeroToEveryAddress) {
-    WriteFile(gXferFile, "");
+    WriteFile(fileName, "");
     SetTransfer(XferMode::Download, k2014, 70, 72);
     BoardTakes(Run(70, {0, 0, 0}));
     Transfer();
@@ -86,7 +86,7 @@ TEST_F(DataDownload, EmptyFileWritesZeroToEveryAddress) {
 }
 
 TEST_F(DataDownload, CutFileGivesWhatIsThereAndZeroBehind) {
-    WriteFile(gXferFile, "12:;?"); // the last digit has lost its partner and the line its end
+    WriteFile(fileName, "12:;?"); // the last digit has lost its partner and the line its end
     SetTransfer(XferMode::Download, k2014, 70, 73);
     const auto expected = Run(70, {0x12, 0xAB, 0, 0});
     BoardTakes(expected);
@@ -95,7 +95,7 @@ TEST_F(DataDownload, CutFileGivesWhatIsThereAndZeroBehind) {
 }
 
 TEST_F(DataDownload, BinaryFileWritesZeroWhereThereIsNoNumber) {
-    WriteFile(gXferFile, QByteArray("\x00\x01zz1z\xFF\xFE??", 10));
+    WriteFile(fileName, QByteArray("\x00\x01zz1z\xFF\xFE??", 10));
     SetTransfer(XferMode::Download, k2014, 70, 75);
     const auto expected = Run(70, {0, 0, 1, 0, 0xFF, 0});
     BoardTakes(expected);
@@ -104,7 +104,7 @@ TEST_F(DataDownload, BinaryFileWritesZeroWhereThereIsNoNumber) {
 }
 
 TEST_F(DataDownload, LabelHasTwoBlanksBeforeTheValue) {
-    WriteFile(gXferFile, "0<\r\n");
+    WriteFile(fileName, "0<\r\n");
     SetTransfer(XferMode::Download, k2014, 100, 100);
     BoardTakes({{100, 12}});
     Transfer();
@@ -112,7 +112,7 @@ TEST_F(DataDownload, LabelHasTwoBlanksBeforeTheValue) {
 }
 
 TEST_F(DataDownload, CancelIsTakenBetweenTwoAddresses) {
-    WriteFile(gXferFile, "0102030405\r\n");
+    WriteFile(fileName, "0102030405\r\n");
     SetTransfer(XferMode::Download, k2014, 70, 74);
     BoardTakes(Run(70, {1, 2}));
     progress.onYield = [this](int yields) { progress.cancelled = yields == 3; };
@@ -121,7 +121,7 @@ TEST_F(DataDownload, CancelIsTakenBetweenTwoAddresses) {
 }
 
 TEST_F(DataDownload, CutLineEndsItQuietlyAtThatAddress) {
-    WriteFile(gXferFile, "0102030405\r\n");
+    WriteFile(fileName, "0102030405\r\n");
     SetTransfer(XferMode::Download, k2014, 70, 74);
     BoardTakes(Run(70, {1, 2}));
     LineIsCut();

@@ -27,7 +27,7 @@ TEST_F(DataUpload, StandardBoardLineIs300CharactersByteForByte) {
     BoardGives(Run(70, values));
     Transfer();
     EXPECT_EQ(expected.size(), 300);
-    EXPECT_EQ(FileBytes(gXferFile), expected + "\r\n");
+    EXPECT_EQ(FileContent(fileName), expected + "\r\n");
 }
 
 TEST_F(DataUpload, Board50LineIs16352CharactersByteForByte) {
@@ -36,7 +36,7 @@ TEST_F(DataUpload, Board50LineIs16352CharactersByteForByte) {
     Transfer();
     const QByteArray expected = Pairs(32, "00") + Pairs(8144, ":?");
     EXPECT_EQ(expected.size(), 16352);
-    EXPECT_EQ(FileBytes(gXferFile), expected + "\r\n");
+    EXPECT_EQ(FileContent(fileName), expected + "\r\n");
     EXPECT_EQ(progress.values.back(), 8176);
 }
 
@@ -46,14 +46,14 @@ TEST_F(DataUpload, Board68LineIs14336CharactersByteForByte) {
     Transfer();
     const QByteArray expected = Pairs(32, "00") + Pairs(7136, "0=");
     EXPECT_EQ(expected.size(), 14336);
-    EXPECT_EQ(FileBytes(gXferFile), expected + "\r\n");
+    EXPECT_EQ(FileContent(fileName), expected + "\r\n");
 }
 
 TEST_F(DataUpload, FirstBytesOfAStandardLineAsUsersKnowThem) {
     SetTransfer(XferMode::Upload, k2014, 70, 72);
     BoardGives(Run(70, {0x12, 0xAB, 0x00}));
     Transfer();
-    EXPECT_EQ(FileBytes(gXferFile), "12:;00" + Pairs(147, "00") + "\r\n");
+    EXPECT_EQ(FileContent(fileName), "12:;00" + Pairs(147, "00") + "\r\n");
 }
 
 TEST_F(DataUpload, RangeOfOneAddressReadsThatByteAlone) {
@@ -61,46 +61,46 @@ TEST_F(DataUpload, RangeOfOneAddressReadsThatByteAlone) {
     BoardGives({{100, 0xC0}});
     Transfer();
     EXPECT_EQ(port.Sent(), (std::vector<int>{0xFF, 0x01, 0, 100}));
-    EXPECT_EQ(FileBytes(gXferFile), Pairs(30, "00") + "<0" + Pairs(119, "00") + "\r\n");
+    EXPECT_EQ(FileContent(fileName), Pairs(30, "00") + "<0" + Pairs(119, "00") + "\r\n");
 }
 
 TEST_F(DataUpload, WithNoFileYetBytesOutsideTheRangeBecome00) {
     SetTransfer(XferMode::Upload, k2012, 8175, 8175);
     BoardGives({{8175, 0x09}});
     Transfer();
-    EXPECT_EQ(FileBytes(gXferFile), Pairs(8175, "00") + "09\r\n");
+    EXPECT_EQ(FileContent(fileName), Pairs(8175, "00") + "09\r\n");
 }
 
 TEST_F(DataUpload, RangeOnAStandardImageKeepsTheOtherPairs) {
-    WriteFile(gXferFile, Pairs(150, ":1") + "\r\n");
+    WriteFile(fileName, Pairs(150, ":1") + "\r\n");
     SetTransfer(XferMode::Upload, k2014, 71, 72);
     BoardGives(Run(71, {0x22, 0x33}));
     Transfer();
-    EXPECT_EQ(FileBytes(gXferFile), ":12233" + Pairs(147, ":1") + "\r\n");
+    EXPECT_EQ(FileContent(fileName), ":12233" + Pairs(147, ":1") + "\r\n");
 }
 
 TEST_F(DataUpload, RangeOnBoard50KeepsTheOtherPairs) {
-    WriteFile(gXferFile, Pairs(8176, "?0") + "\r\n");
+    WriteFile(fileName, Pairs(8176, "?0") + "\r\n");
     SetTransfer(XferMode::Upload, k2012, 160, 161);
     BoardGives(Run(160, {1, 2}));
     Transfer();
-    EXPECT_EQ(FileBytes(gXferFile), Pairs(160, "?0") + "0102" + Pairs(8014, "?0") + "\r\n");
+    EXPECT_EQ(FileContent(fileName), Pairs(160, "?0") + "0102" + Pairs(8014, "?0") + "\r\n");
 }
 
 TEST_F(DataUpload, CutFileIsFilledUp) {
-    WriteFile(gXferFile, "11223"); // the last digit has lost its partner
+    WriteFile(fileName, "11223"); // the last digit has lost its partner
     SetTransfer(XferMode::Upload, k2014, 219, 219);
     BoardGives({{219, 0xFF}});
     Transfer();
-    EXPECT_EQ(FileBytes(gXferFile), "1122" + Pairs(147, "00") + "??\r\n");
+    EXPECT_EQ(FileContent(fileName), "1122" + Pairs(147, "00") + "??\r\n");
 }
 
 TEST_F(DataUpload, LineLongerThanTheImageIsCutToIt) {
-    WriteFile(gXferFile, Pairs(500, "11") + "\r\n");
+    WriteFile(fileName, Pairs(500, "11") + "\r\n");
     SetTransfer(XferMode::Upload, k2014, 70, 70);
     BoardGives({{70, 0x22}});
     Transfer();
-    EXPECT_EQ(FileBytes(gXferFile), "22" + Pairs(149, "11") + "\r\n");
+    EXPECT_EQ(FileContent(fileName), "22" + Pairs(149, "11") + "\r\n");
 }
 
 TEST_F(DataUpload, LabelNamesValueAndAddress) {
@@ -121,23 +121,23 @@ TEST_F(DataUpload, BarMovesInTheRangeOnly) {
 }
 
 TEST_F(DataUpload, CancelWritesTheLineSoFar) {
-    WriteFile(gXferFile, Pairs(150, "77") + "\r\n");
+    WriteFile(fileName, Pairs(150, "77") + "\r\n");
     SetTransfer(XferMode::Upload, k2014, 70, 219);
     BoardGives(Run(70, {1, 2, 3}));
     progress.onYield = [this](int yields) { progress.cancelled = yields == 4; };
     Transfer();
-    EXPECT_EQ(FileBytes(gXferFile), "010203\r\n");
+    EXPECT_EQ(FileContent(fileName), "010203\r\n");
     EXPECT_EQ(port.Sent().size(), 8u);
 }
 
 TEST_F(DataUpload, CutLineWritesWhatWasReadAndNoInventedByte) {
-    WriteFile(gXferFile, Pairs(150, "77") + "\r\n");
+    WriteFile(fileName, Pairs(150, "77") + "\r\n");
     SetTransfer(XferMode::Upload, k2014, 71, 219);
     BoardGives(Run(71, {1, 2}));
     LineIsCut();
     Transfer();
     EXPECT_TRUE(link.CommError());
-    EXPECT_EQ(FileBytes(gXferFile), "770102\r\n");
+    EXPECT_EQ(FileContent(fileName), "770102\r\n");
     EXPECT_EQ(progress.messages.size(), 2);
 }
 

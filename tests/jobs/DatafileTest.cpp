@@ -13,10 +13,13 @@ QString RefusalOf(const char* start) {
 
 class Datafile : public JobsFixture {
 protected:
-    Datafile() { gXferFile = PathOf(QStringLiteral("values.txt")); }
+    Datafile() {
+        fileName = QStringLiteral("values.txt");
+        gXferFile = PathOf(fileName);
+    }
 
     void Run(const QByteArray& text, const char* start, qint16 count) {
-        WriteFile(gXferFile, text);
+        WriteFile(fileName, text);
         SetTransfer(XferMode::Datafile, 0, 0, count);
         transfer.SetupFileDownload(QString::fromLatin1(start));
         Transfer();

@@ -30,6 +30,8 @@ private:
 
 class DatafileCommand : public JobsFixture {
 protected:
+    DatafileCommand() { fileName = QStringLiteral("values.txt"); }
+
     void AnswerStart(const char* start) {
         dialogs.ExpectInput(QStringLiteral("Please Enter Starting Address."),
                             QStringLiteral("Datafile Download"), QString(),
@@ -49,7 +51,7 @@ protected:
 } // namespace
 
 TEST_F(DatafileCommand, AsksForFileAndStartAndRunsJob4) {
-    WriteFile(datafile, "100\r\n2500\r\n7\r\n");
+    WriteFile(fileName, "100\r\n2500\r\n7\r\n");
     gHdnFile = PathOf(QStringLiteral("Press.hdn"));
     dialogs.ExpectOpen(datafile);
     AnswerStart("w100");
@@ -66,11 +68,11 @@ TEST_F(DatafileCommand, AsksForFileAndStartAndRunsJob4) {
     EXPECT_EQ(request.filter, "Text Files(*.txt)|*.txt|");
     EXPECT_EQ(request.filterIndex, 1);
     EXPECT_EQ(request.fileName, "");
-    EXPECT_EQ(request.initDir, folder.path());
+    EXPECT_EQ(request.initDir, directory.path());
 }
 
 TEST_F(DatafileCommand, StartsAtTheLastDatafileOfTheSessionWhileItExists) {
-    WriteFile(datafile, "1\r\n");
+    WriteFile(fileName, "1\r\n");
     gHdnFile = QStringLiteral("/somewhere/Press.hdn");
     for (int i = 0; i < 2; ++i) {
         dialogs.ExpectOpen(datafile);
@@ -78,7 +80,7 @@ TEST_F(DatafileCommand, StartsAtTheLastDatafileOfTheSessionWhileItExists) {
         command.mnuFileDownloadFile_Click();
     }
     EXPECT_EQ(dialogs.FileRequests()[1].fileName, datafile);
-    EXPECT_EQ(dialogs.FileRequests()[1].initDir, folder.path());
+    EXPECT_EQ(dialogs.FileRequests()[1].initDir, directory.path());
     QFile::remove(datafile);
     dialogs.ExpectOpen(QString());
     command.mnuFileDownloadFile_Click();
@@ -87,7 +89,7 @@ TEST_F(DatafileCommand, StartsAtTheLastDatafileOfTheSessionWhileItExists) {
 }
 
 TEST_F(DatafileCommand, StartOfBOrWAloneEndsSilently) {
-    WriteFile(datafile, "1\r\n");
+    WriteFile(fileName, "1\r\n");
     for (const char* start : {"", "B", "W", "B9"}) {
         dialogs.ExpectOpen(datafile);
         AnswerStart(start);
@@ -113,7 +115,7 @@ TEST_F(DatafileCommand, GoesOnlineFirst) {
     mode.GoOffline();
     ASSERT_FALSE(link.OnlineMode());
     port.ForgetSent();
-    WriteFile(datafile, "9\r\n");
+    WriteFile(fileName, "9\r\n");
     dialogs.ExpectOpen(datafile);
     AnswerStart("B40");
     port.Reply(0x55);
@@ -124,7 +126,7 @@ TEST_F(DatafileCommand, GoesOnlineFirst) {
 }
 
 TEST_F(DatafileCommand, MoreItemsThan16BitsAreReported) {
-    WriteFile(datafile, QByteArray("1\r\n").repeated(32768));
+    WriteFile(fileName, QByteArray("1\r\n").repeated(32768));
     dialogs.ExpectOpen(datafile);
     ExpectReport("Error Number = 6\r\n\r\nOverflow");
     command.mnuFileDownloadFile_Click();

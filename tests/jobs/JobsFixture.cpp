@@ -1,20 +1,15 @@
 #include "jobs/JobsFixture.h"
 
 #include "base/Dialogs.h"
-#include <QFile>
 
 namespace {
 constexpr int attention = 0xFF;
-constexpr int acknowledge = 0x55;
 constexpr int writeMode = 0x02;
 } // namespace
 
 JobsFixture::JobsFixture() {
-    port.Reply(acknowledge);
-    link.OpenRSComm(port);
-    EXPECT_TRUE(link.OnlineMode());
-    port.ForgetSent();
-    gXferFile = PathOf(QStringLiteral("Press.ldt"));
+    GoOnline();
+    gXferFile = PathOf(fileName);
 }
 
 JobsFixture::~JobsFixture() {
@@ -23,33 +18,22 @@ JobsFixture::~JobsFixture() {
     gHdnFile.clear();
 }
 
-void JobsFixture::WriteFile(const QString& path, const QByteArray& bytes) const {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray JobsFixture::FileBytes(const QString& path) const {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
 void JobsFixture::BoardTakes(const std::vector<BoardByte>& bytes) {
-    port.Replies({acknowledge, acknowledge});
+    AcceptHandshake();
     for (const BoardByte& byte : bytes)
-        port.Replies({byte.address / 256, byte.address % 256, byte.value});
+        AnswerWrite(byte.address / 256, byte.address % 256, byte.value);
 }
 
 void JobsFixture::BoardGives(const std::vector<BoardByte>& bytes) {
-    port.Replies({acknowledge, acknowledge});
+    AcceptHandshake();
     for (const BoardByte& byte : bytes)
-        port.Replies({byte.address / 256, byte.value});
+        AnswerRead(byte.address / 256, byte.value);
 }
 
 void JobsFixture::LineIsCut() {
     for (int i = 0; i < 3; ++i)
         port.Silence();
-    dialogs.ExpectBoxTitled(QStringLiteral("WARNING - Communication Error!"), MsgAnswer::Cancel);
+    ExpectAlert(NoReplyAlert(), MsgAnswer::Cancel);
 }
 
 std::vector<BoardByte> JobsFixture::TakeWritten() {

@@ -1,5 +1,6 @@
 #include "statustable/AddressEntry.h"
 
+#include "support/PrintText.h"
 #include "TestFiles.h"
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 #include "statustable/CellTexts.h"
 
 #include "statustable/OfflineData.h"
+#include "support/PrintText.h"
 #include "TestFiles.h"
 #include <gtest/gtest.h>
 

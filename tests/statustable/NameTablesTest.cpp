@@ -1,6 +1,7 @@
 #include "statustable/NameTables.h"
 
 #include "base/RunTimeError.h"
+#include "support/PrintText.h"
 #include "support/ScriptedDialogs.h"
 #include "TestFiles.h"
 #include <gtest/gtest.h>

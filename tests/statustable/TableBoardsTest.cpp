@@ -1,5 +1,6 @@
 #include "statustable/TableBoards.h"
 
+#include "support/PrintText.h"
 #include "TestFiles.h"
 #include <gtest/gtest.h>
 

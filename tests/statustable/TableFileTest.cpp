@@ -1,6 +1,7 @@
 #include "statustable/TableFile.h"
 
 #include "base/RunTimeError.h"
+#include "support/PrintText.h"
 #include "TestFiles.h"
 #include <gtest/gtest.h>
 #include <QDir>

@@ -1,7 +1,9 @@
 #include "statustable/TableJobs.h"
 
 #include "base/RunTimeError.h"
+#include "jobs/JobProgress.h"
 #include "session/Globals.h"
+#include "support/PrintText.h"
 #include "TestFiles.h"
 #include <gtest/gtest.h>
 #include <vector>
@@ -27,17 +29,15 @@ private:
     std::vector<std::vector<QString>> texts_;
 };
 
-class Progress final : public TableJobProgress {
+class Progress final : public JobProgress {
 public:
-    void SetMax(int highest) override { max = highest; }
-    void SetValue(int reached) override { value = reached; }
+    void ShowMessage(const QString&) override {}
+    void ShowSecondLine(const QString&) override {}
+    void SetRange(qint32, qint32 highest) override { max = highest; }
+    void SetValue(qint32 reached) override { value = reached; }
+    bool Cancelled() const override { return value == cancelAt; }
+    void ClearCancel() override { cancelAt = -1; }
     void Yield() override { ++yields; }
-    bool TakeCancel() override {
-        if (value != cancelAt)
-            return false;
-        cancelAt = -1;
-        return true;
-    }
 
     int max = -1;
     int value = -1;

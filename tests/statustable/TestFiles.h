@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ostream>
 #include <QByteArray>
 #include <QFile>
 #include <QString>
@@ -25,7 +24,3 @@ public:
 private:
     QTemporaryDir folder_;
 };
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}

@@ -39,5 +39,5 @@ private:
     qint16 mode_ = 0;
     bool loaded_ = false; // from the first showing to the end of the transfer
     QLabel* lblWaitDisplay_ = nullptr;
-    QTimer timer1_;
+    QTimer timer1_{this};
 };

@@ -184,6 +184,28 @@ TEST_F(DumpFailure, CableCutInTheIdentBlockIsReported) {
     CheckHalted();
 }
 
+TEST_F(DumpFailure, NothingOfTheIdentBlockIsTriedAfterACutCable) {
+    ReadIdentBlock("", 0, 0);
+    RequestDump();
+    Handshake(0x02);
+    WriteByte(8188, 20);
+    WriteByte(8189, 0);
+    WriteByte(8190, 12);
+    Pair(0xFF, 0x55);
+    Pair(0x03, 0x55);
+    Pair(0xFF, 0x55);
+    Dead(0xFF);
+    rev = ""; // revision and checksum are unknown: writing them would be refused with a box
+    dialogs.ExpectBoxTitled(QStringLiteral("Program Download"), MsgAnswer::Ok);
+    Prepare('A', ":00000001FF", QByteArray(44, '0') + "\r\n");
+    dialogs.ExpectBoxTitled(QStringLiteral("Program Download - [Unknown]"), MsgAnswer::Yes);
+    ExpectNoReplyAlert();
+    ExpectBox(QStringLiteral("Could Not Send Program Ident and Revision to PLC!"), 16);
+    ExpectNotComplete();
+    link.DumpProgram();
+    CheckHalted();
+}
+
 TEST_F(DumpFailure, PortLostBetweenRecordsIsReported) {
     StartDump();
     GoodRecord({0x01, 0x20, 0x00, 0x07});

@@ -2,16 +2,12 @@
 
 #include "base/ApplicationFolder.h"
 #include "link/RSComm.h"
+#include "support/PrintText.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPort.h"
 #include "support/VirtualClock.h"
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
-
-/// Lets failed comparisons show texts.
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
 
 /// A folder for program sets and a link with scripted prompts, in virtual time. No port yet.
 class ProgramTest : public testing::Test {
