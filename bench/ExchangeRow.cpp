@@ -3,7 +3,7 @@
 #include "bench/BareLoop.h"
 #include "bench/BenchLink.h"
 #include "bench/EchoResponder.h"
-#include <algorithm>
+#include "bench/Median.h"
 #include <cstdint>
 #include <functional>
 #include <stdexcept>
@@ -37,11 +37,6 @@ double RateOfSlice(const Clock& clock, const std::function<void()>& read) {
     return readsPerSlice * exchangesPerRead / (clock.MonotonicSeconds() - start);
 }
 
-double Median(std::vector<double> values) {
-    const auto middle = values.begin() + values.size() / 2;
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 } // namespace
 
 Row MeasureExchanges() {

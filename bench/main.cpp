@@ -2,6 +2,7 @@
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
 #include "bench/Row.h"
+#include "bench/StartRows.h"
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -26,7 +27,9 @@ std::vector<Measurement> Measurements() {
     const QString board = Beside(QStringLiteral("halden-board"));
     return {{QStringLiteral("exchanges"), [] { return std::vector{bench::MeasureExchanges()}; }},
             {QStringLiteral("reads"), [board] { return bench::MeasurePacedReads(board); }},
-            {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }}};
+            {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
+            {QStringLiteral("start"),
+             [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
 }
 
 // Runs those that are named, or all.
