@@ -77,7 +77,7 @@ void Server::WriteLog() {
     if (!log_.is_open())
         return;
     char text[64];
-    for (const LoggedByte& byte : line_.TakeLog(Now())) {
+    for (const LoggedByte& byte : line_.TakeLog(Now() + oneWay_)) {
         const int length = std::snprintf(text, sizeof text, "%.6f %c %02X\n", byte.at,
                                          byte.toBoard ? '>' : '<', byte.value);
         log_.write(text, length);

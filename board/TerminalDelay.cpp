@@ -5,6 +5,7 @@
 #include <chrono>
 #include <poll.h>
 #include <sched.h>
+#include <termios.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -58,6 +59,7 @@ double MeasureTurnaround(PseudoTerminal& terminal) {
         taken.push_back(once);
     }
     host.join();
+    tcflush(terminal.FarHandle(), TCIOFLUSH); // of a try given up
     if (taken.size() < Tries)
         return 0;
     std::sort(taken.begin(), taken.end());

@@ -1,5 +1,7 @@
 #include "board/PseudoTerminal.h"
+#include "board/TerminalDelay.h"
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -184,6 +186,17 @@ TEST_F(ExecutableTest, KeepsServingWhenItsInputEnds) {
     EXPECT_FALSE(fs::exists(fs::symlink_status(folder / "COM1")));
 }
 
+TEST_F(ExecutableTest, IsNotFasterThanItsLine) {
+    RunningBoard board({"--baud", "19200"});
+    const Port port(board.Terminal());
+    constexpr int exchanges = 40;
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(port.Exchange(std::vector<uint8_t>(exchanges, 0xFF)), Got(exchanges, 0x55));
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
+    // A terminal that is quicker now than it was when it was measured may win a few per cent.
+    EXPECT_GT(taken.count(), 0.9 * exchanges * 2 * 10 / 19200);
+}
+
 TEST_F(ExecutableTest, EndsWithItsInputIfTold) {
     RunningBoard board({"--exit-with-stdin"});
     board.Terminal();
@@ -217,4 +230,15 @@ TEST(PseudoTerminal, DropsWhatAHostDoesNotRead) {
     uint8_t byte = 0;
     EXPECT_EQ(read(terminal.FarHandle(), &byte, 1), 1);
     EXPECT_EQ(byte, 0x55);
+}
+
+TEST(TerminalDelay, IsShortAndLeavesNothingBehind) {
+    haldenboard::PseudoTerminal terminal;
+    const double delay = haldenboard::MeasureTurnaround(terminal);
+    EXPECT_GE(delay, 0);
+    EXPECT_LE(delay, 60e-6);
+    uint8_t byte = 0;
+    EXPECT_EQ(terminal.Read({&byte, 1}), 0u);
+    pollfd host{terminal.FarHandle(), POLLIN, 0};
+    EXPECT_EQ(poll(&host, 1, 0), 0);
 }

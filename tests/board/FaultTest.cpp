@@ -55,6 +55,7 @@ TEST_F(FaultTest, HoldsAReplyBack) {
     EXPECT_NEAR(*line.NextArrival(), 1.5 + 2 * ByteTime, 1e-9);
     line.HostWrites(0xFF, 1.0); // its answer queues behind the late one
     EXPECT_NEAR(*line.NextArrival(), 1.5 + 2 * ByteTime, 1e-9);
+    EXPECT_EQ(line.HostAvailable(1.5 + 2.5 * ByteTime), 1);
     EXPECT_EQ(line.HostAvailable(1.5 + 3.5 * ByteTime), 2);
 }
 

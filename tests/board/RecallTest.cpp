@@ -125,6 +125,14 @@ TEST(ChannelTrack, KeepsTouchingSetpointsApart) {
               (std::vector<PlsEdge>{{1, 5}, {0, 10}, {1, 10}, {0, 20}, {1, 20}, {0, 30}}));
 }
 
+TEST(ChannelTrack, KeepsTouchingSetpointsApartWhenOneGrows) {
+    ChannelTrack track(360);
+    track.Add(10, 20);
+    track.Add(20, 30);
+    track.Add(20, 35);
+    EXPECT_EQ(track.Edges(), (std::vector<PlsEdge>{{1, 10}, {0, 20}, {1, 20}, {0, 35}}));
+}
+
 TEST(ChannelTrack, MeltsOverlappingSetpoints) {
     ChannelTrack track(360);
     track.Add(10, 20);
