@@ -116,7 +116,7 @@ TEST_F(StatusTableLive, AValueTooLargeIsRefusedByTheLinkAndTheCellComesBack) {
     Poke(100, 9);
     table->RunPasses();
     table->view->StatusGrid().SetCell(2, 2);
-    table->dialogs.ExpectBoxTitled("Entry Error", 1);
+    table->dialogs.ExpectBoxTitled("ENTRY ALERT", 1);
     table->Type("256");
     table->Press(Qt::Key_Return);
     table->RunPasses();

@@ -14,10 +14,8 @@ void BoardAtPort::Output(const QByteArray& bytes) {
     for (const char byte : bytes) {
         ++bytesSent;
         const auto reply = board.Receive(static_cast<std::uint8_t>(byte));
-        if (!plugged || !reply)
-            continue;
-        for (const std::uint8_t answer : *reply)
-            input_.push_back(static_cast<char>(answer));
+        if (plugged && reply)
+            input_.push_back(static_cast<char>(reply->value));
     }
 }
 
