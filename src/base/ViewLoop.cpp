@@ -23,7 +23,7 @@ bool ViewLoopHold::AnyHeld() {
 }
 
 ViewLoopRunner::ViewLoopRunner(ModalTest blockedByModal, QObject* parent)
-    : QObject(parent), blockedByModal_(std::move(blockedByModal)) {
+    : QObject(parent), blockedByModal_(std::move(blockedByModal)), timer_(this) {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &ViewLoopRunner::Turn);
 }
@@ -60,13 +60,13 @@ void ViewLoopRunner::Turn() {
         Schedule(restTime);
         return;
     }
+    Schedule(restTime); // the next turn comes even if the step raises an error
     woken_ = false;
     const ViewLoop::Step step = StepOf(*loop);
     if (!loops_.empty())
         Schedule(step == ViewLoop::Step::Worked || woken_ ? 0 : restTime);
 }
 
-// The mark goes down on an error too: one failed step must not still every view for good.
 ViewLoop::Step ViewLoopRunner::StepOf(ViewLoop& loop) {
     const QScopedValueRollback<bool> running(inStep_, true);
     return loop.TakeStep();

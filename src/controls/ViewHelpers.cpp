@@ -12,8 +12,7 @@ QRect WorkingArea(const QWidget& view) {
     const QWidget* window = view.parentWidget() ? view.parentWidget()->window() : nullptr;
     if (!window || !window->isVisible())
         window = QApplication::activeWindow();
-    return window && window != &view ? window->frameGeometry()
-                                     : view.screen()->availableGeometry();
+    return window && window != &view ? window->frameGeometry() : view.screen()->availableGeometry();
 }
 } // namespace
 

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class ApplicationFolder;
+
 /// Which port the program uses and how fast, as kept in the settings file.
 struct PortSettings {
     static constexpr int lowestPort = 1;
@@ -24,3 +26,20 @@ void WriteDefaultPortSettings(const QString& path);
 
 /// True when the settings file does not exist or holds nothing.
 bool PortSettingsMissing(const QString& path);
+
+/// The settings to show to the user: port 1 and 9600 baud where nothing is stored, else as
+/// ReadPortSettings. Raises as that.
+PortSettings LoadPortSettings(const QString& path);
+
+/// Makes the folder of the settings file if needed and writes the line "7, 19200 ". Raises as
+/// TextWriter, 75 if the folder cannot be made.
+void SavePortSettings(const QString& path, const PortSettings& settings);
+
+/// Writes the port number less 1 into "HALDEN.SFG" of each of the folders of the suite's tools
+/// that exists; `port` 1 to 99. Raises as TextWriter.
+void WriteToolPortFiles(const ApplicationFolder& folder, int port);
+
+/// The port that a typed text stands for, held within 1 to 99; 1 for a text without a number.
+int PortOfText(const QString& text);
+/// Whether a typed text is a number within 1 to 99.
+bool IsPortText(const QString& text);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "link/ParsedAddress.h"
+#include "link/ProgramConfig.h"
+#include "link/ProgramIdent.h"
 #include <array>
 #include <cstdint>
 #include <functional>
@@ -12,8 +14,11 @@ class ApplicationFolder;
 class BusyDisplay;
 class Clock;
 class Dialogs;
+class HexImage;
 class MSComm;
 class RunTimeError;
+class WaitDisplay;
+struct HexLine;
 
 /// Result of an exchange that got no reply; no byte has this value.
 constexpr int noReply = 9999;
@@ -151,14 +156,16 @@ private:
                      InputBuffer input = InputBuffer::Keep);
     int ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input);
     int AwaitReply();
-    class WaitDisplay;
     bool InputArrives(double deadline, WaitDisplay& display);
+    bool InputArrivesWithin(double seconds);
     void SendByte(std::uint8_t byte);
     bool UserRetries(const QString& text);
+    bool UserRetriesLine();
     bool SetTargetMode(int mode, std::uint8_t modeByte);
     void WaitSeconds(double seconds);
 
     // RSCommVariables.cpp: read and write mode.
+    static QString ByteVariable(qint32 address) { return u'B' + QString::number(address); }
     QString ReadVariable(const QString& variable);
     void ParseForReading(const QString& variable);
     bool ReadByteAt(qint32 address, std::uint8_t& data);
@@ -176,6 +183,40 @@ private:
     // RSCommProgramSet.cpp: the files of a program set.
     void SetProgramIdent(const QString& revFile);
     void SetProgramConfig(const QString& lcfFile);
+    void NameProgramSet(const QString& hdnFile);
+    bool ReadBoardIndex(const QString& hdnFile);
+    void CheckProgramSet(const QString& hdnFile);
+    void CheckProgramFiles();
+    void RefuseProgramFile(const QString& reason);
+
+    // RSCommDump.cpp: a program dump, step by step. RSCommDumpRecords.cpp: its records.
+    enum class RecordsEnd { AllSent, LinkFailed, Halted };
+    void RunDump();
+    bool DumpMayStart();
+    ProgramIdent IdentInBoard();
+    bool UserWantsDump();
+    std::optional<HexImage> ImageToSend();
+    void RequestDump();
+    void WriteConfiguration();
+    void EnterProgramMode();
+    RecordsEnd SendRecords(const HexImage& image);
+    bool SendRecord(const HexLine& record, std::optional<std::uint8_t>& lastReply);
+    std::optional<std::uint8_t> RecordReply();
+    bool LeaveProgramMode();
+    void WriteIdentBlock();
+    void ReportDump();
+    void HaltDump(const QString& reason, int style, const QString& title);
+
+    // RSCommUpload.cpp: a program upload.
+    void RunUpload();
+    void WriteTextLine(const QString& path, const QString& line);
+    std::optional<QString> ReadRevLine();
+    void ReadConfiguration();
+    bool UploadImage();
+    QByteArray ReadImageLine(qint32 address);
+    int ReadProgramByte(qint32 address);
+    void ReportUploadFailed();
+    void ReportUploadComplete();
 
     Dialogs& dialogs_;
     Clock& clock_;
@@ -204,12 +245,8 @@ private:
     bool writingIdent_ = false;
     bool readingIdent_ = false;
     bool validProgram_ = false;
-    QString programIdent_ = QStringLiteral("Unknown");
-    QString programRevision_ = QStringLiteral("Unknown");
-    QString programChecksum_ = QStringLiteral("Unknown");
-    qint16 configCodeA_ = 3;
-    qint16 configCodeB_ = 0;
-    qint16 configCodeC_ = 3;
+    ProgramIdent program_;
+    ProgramConfig config_;
     QString hdnPath_;
     QString revPath_;
     QString hexPath_;

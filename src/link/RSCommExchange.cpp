@@ -3,6 +3,7 @@
 #include "base/MSComm.h"
 #include "base/RunTimeError.h"
 #include "link/RSComm.h"
+#include "link/WaitDisplay.h"
 #include <algorithm>
 
 namespace {
@@ -12,8 +13,6 @@ constexpr double firstReplyTime = 1.0;  // seconds until the first time-out
 constexpr double resyncReplyTime = 2.0; // seconds after each resynchronising attention
 constexpr int timeOutsBeforeAlert = 3;  // 1 + 2 + 2 seconds on a dead line
 constexpr double handshakeTime = 2.0;   // seconds in which a mode must be entered
-constexpr double waitSlice = 0.1;       // seconds between paints of a wait that is shown
-constexpr double quietWait = 0.25;      // seconds of a wait that the user is not shown
 
 QString CannotCommunicate() {
     return QStringLiteral("Cannot Communicate with Target Board.\r"
@@ -21,37 +20,6 @@ QString CannotCommunicate() {
                           "COMM Port and PROG Port.");
 }
 } // namespace
-
-// Tells the busy display of one wait, once it has become a long one, and of its end.
-class RSComm::WaitDisplay {
-public:
-    WaitDisplay(BusyDisplay& busy, const Clock& clock) : busy_(busy), clock_(clock) { Begin(); }
-    ~WaitDisplay() { End(); }
-    WaitDisplay(const WaitDisplay&) = delete;
-    WaitDisplay& operator=(const WaitDisplay&) = delete;
-
-    void Begin() { start_ = clock_.MonotonicSeconds(); }
-    void End() {
-        if (shown_)
-            busy_.WaitEnded();
-        shown_ = false;
-    }
-    // Shows a wait that has become long by `now`; gives the time of the next look at it.
-    double Look(double now) {
-        const double quietEnd = start_ + quietWait;
-        if (now < quietEnd)
-            return quietEnd;
-        busy_.StillWaiting(now - start_);
-        shown_ = true;
-        return now + waitSlice;
-    }
-
-private:
-    BusyDisplay& busy_;
-    const Clock& clock_;
-    double start_ = 0.0;
-    bool shown_ = false;
-};
 
 RSComm::RSComm(Dialogs& dialogs, Clock& clock, BusyDisplay& busy, const ApplicationFolder& folder)
     : dialogs_(dialogs), clock_(clock), busy_(busy), folder_(folder) {}
@@ -108,7 +76,7 @@ int RSComm::AwaitReply() {
             continue;
         }
         display.End();
-        if (!UserRetries(CannotCommunicate()))
+        if (!UserRetriesLine())
             return noReply;
         display.Begin();
         timeOuts = 0;
@@ -122,6 +90,15 @@ bool RSComm::UserRetries(const QString& text) {
     const int answer = dialogs_.MsgBox(text, MsgStyle::CriticalRetryCancel,
                                        QStringLiteral("WARNING - Communication Error!"));
     return answer == MsgAnswer::Retry;
+}
+
+bool RSComm::UserRetriesLine() {
+    return UserRetries(CannotCommunicate());
+}
+
+bool RSComm::InputArrivesWithin(double seconds) {
+    WaitDisplay display(busy_, clock_);
+    return InputArrives(clock_.MonotonicSeconds() + seconds, display);
 }
 
 // Waits for a received byte until `deadline`. When the port is lost on the way the time passes all

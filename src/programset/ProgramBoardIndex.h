@@ -7,3 +7,6 @@
 /// not exist or is empty. Raises 5 for an empty first item and as TextReader for a file that
 /// cannot be read.
 qint16 ProgramBoardIndex(const QString& path);
+
+/// Board index that an existing .hdn file holds; 68 if it is empty. Raises as ProgramBoardIndex.
+qint16 BoardIndexOfHdnFile(const QString& hdnFile);

@@ -9,6 +9,11 @@ QString gCurrentFile;
 QStringList gCurrentFiles;
 QString gCurrentDrive;
 qint16 gPrintContext = PrintContext::Browser;
+
+QStringList gTableAddresses;
+QString gTableTitle;
+bool gViewNicNames = false;
+bool gViewDescriptions = false;
 qint16 gWaitJob = 0;
 qint16 gXferMode = 0;
 qint16 gXferBoard = 0;

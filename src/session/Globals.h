@@ -37,6 +37,18 @@ constexpr qint16 Trending = 3;
 /// Written by each view when it is activated; read by the toolbar's print button.
 extern qint16 gPrintContext;
 
+// The status table.
+
+/// Address texts last read from or written to a table file; entry i belongs to grid row i + 2.
+/// Written by the status table; read by it and by the job that fills the grid.
+extern QStringList gTableAddresses;
+/// File name of the table without its extension, empty for a table without a file. Written by the
+/// status table; read by reports.
+extern QString gTableTitle;
+/// Which kind of text column 0 of the status table shows; at most one is set. Written by the
+/// status table; read by its jobs and by reports.
+extern bool gViewNicNames;
+extern bool gViewDescriptions;
 /// Code of the job that runs or ran last (WaitJob). Written by RunWaitJob; read by the busy view.
 extern qint16 gWaitJob;
 

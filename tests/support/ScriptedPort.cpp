@@ -91,18 +91,31 @@ void ScriptedPort::Output(const QByteArray& bytes) {
 void ScriptedPort::AnswerByte(int byte) {
     sent_.push_back(byte);
     const double now = clock_.MonotonicSeconds();
+    const int answerOfBoard = AnswerOfBoard(byte);
     if (!script_.empty()) {
         const Scripted next = script_.front();
         script_.pop_front();
         if (next.byte)
             arriving_.push_back({*next.byte, now + next.after});
     } else if (answersLikeBoard_) {
-        const bool acknowledged = byte == 0xFF || attended_;
-        arriving_.push_back({acknowledged ? 0x55 : byte, now + 0.001});
+        arriving_.push_back({answerOfBoard, now + 0.001});
     }
-    attended_ = byte == 0xFF;
     if (bytesUntilLoss_ > 0 && --bytesUntilLoss_ == 0)
         Lose();
+}
+
+// Follows the bytes whether the script answers them or not. 0xFF is an attention where a command
+// or an address begins, and data everywhere else.
+int ScriptedPort::AnswerOfBoard(int byte) {
+    const bool commanded = attended_ && byte != 0xFF;
+    attended_ = byte == 0xFF && place_ == 0;
+    if (attended_ || commanded) {
+        mode_ = commanded && byte <= 2 ? byte : 0;
+        return 0x55;
+    }
+    if (mode_ != 0)
+        place_ = (place_ + 1) % (mode_ + 1);
+    return byte;
 }
 
 QByteArray ScriptedPort::Input() {

@@ -62,6 +62,7 @@ private:
         double at;
     };
     void AnswerByte(int byte);
+    int AnswerOfBoard(int byte);
 
     VirtualClock& clock_;
     std::deque<Scripted> script_;
@@ -69,6 +70,8 @@ private:
     std::vector<int> sent_;
     bool answersLikeBoard_ = false;
     bool open_ = false;
+    int mode_ = 0;          // entered by the bytes sent: 1 read, 2 write, 0 none
+    int place_ = 0;         // of the next byte within a read of two or a write of three
     bool attended_ = false; // the byte sent last was an attention
     int bytesUntilLoss_ = -1;
     int outputError_ = 0;

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/MSComm.h"
+
+namespace bench {
+
+/// Passes everything on to a port and counts the bytes that cross its line.
+class CountingPort final : public MSComm {
+public:
+    explicit CountingPort(MSComm& port) : port_(port) {}
+
+    /// Bytes sent and taken so far.
+    qint64 Bytes() const { return bytes_; }
+
+    int CommPort() const override { return port_.CommPort(); }
+    void SetCommPort(int number) override { port_.SetCommPort(number); }
+    QString Settings() const override { return port_.Settings(); }
+    void SetSettings(const QString& settings) override { port_.SetSettings(settings); }
+    void SetInputLen(int length) override { port_.SetInputLen(length); }
+    void SetInputMode(int mode) override { port_.SetInputMode(mode); }
+    bool PortOpen() const override { return port_.PortOpen(); }
+    void SetPortOpen(bool open) override { port_.SetPortOpen(open); }
+    int InBufferCount() override { return port_.InBufferCount(); }
+    void SetInBufferCount(int count) override { port_.SetInBufferCount(count); }
+    void Output(const QByteArray& bytes) override {
+        bytes_ += bytes.size();
+        port_.Output(bytes);
+    }
+    QByteArray Input() override {
+        const QByteArray bytes = port_.Input();
+        bytes_ += bytes.size();
+        return bytes;
+    }
+    bool WaitForInput(double deadline) override { return port_.WaitForInput(deadline); }
+
+private:
+    MSComm& port_;
+    qint64 bytes_ = 0;
+};
+
+} // namespace bench

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+namespace bench {
+
+/// One line of the table: a measured value against what it is measured by.
+struct Row {
+    QString name;     ///< what was measured, with its unit
+    double value;     ///< as measured
+    double reference; ///< the limit, or the other way of doing the same
+    double ratio;     ///< the part of the goal that was reached, higher is better
+    double goal;      ///< lowest ratio that will do
+};
+
+/// A row whose ratio is the value divided by the reference.
+Row RowOfRates(const QString& name, double value, double reference, double goal);
+
+/// True when the row reaches its goal.
+bool IsReached(const Row& row);
+
+/// The table, a line per row below a line of headings.
+QString TableText(const std::vector<Row>& rows);
+
+} // namespace bench

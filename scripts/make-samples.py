@@ -1,0 +1,66 @@
+#!/usr/bin/env python3
+"""Writes the sample program sets into samples/. Run it again after a change here; the sets are
+committed, so nobody needs Python to use them."""
+
+from pathlib import Path
+
+FOLDER = Path(__file__).resolve().parent.parent / "samples"
+
+# base name, first character of the .hdn file, first image address, image length in bytes,
+# revision, configuration codes A, B, C (or None), title
+SETS = [
+    ("PUMP1", "2", 0x5000, 1536, 3, None, "Cooling water pumps 1 and 2 with standby"),
+    ("LINE2", "6", 0x2000, 1024, 12, None, "Bottling line 2 - conveyor and reject gate"),
+    ("PRESS", "D", 0x4000, 2048, 27, None, "Forming press with two-hand start - 40 strokes a minute"),
+    ("PANEL", "A", 0x2000, 768, 1, (1, 0, 2), "Operator panel of the packing cell"),
+]
+LCF_BOARD = {"A": "E"}
+PLS_SETS = [("CAM1", "E")]
+
+
+def mark_hex(byte):
+    return "".join(chr(ord("0") + digit) for digit in divmod(byte, 16))
+
+
+def image(length, seed):
+    """Bytes of no particular program: groups of code, a table of zeros and a text at the end."""
+    state = seed
+    data = bytearray()
+    while len(data) < length - 96:
+        state = (state * 1103515245 + 12345) % 2**31
+        data += bytes([0x60 + state // 65536 % 24, state // 256 % 256, 0x20 + state // 2**24 % 4])
+    data = data[: length - 96] + bytes(64)
+    return bytes(data + f"sample image {length} bytes".encode().ljust(32))
+
+
+def record(address, data, kind=0):
+    body = bytes([len(data), address // 256, address % 256, kind]) + data
+    return ":" + (body + bytes([-sum(body) % 256])).hex().upper()
+
+
+def write(name, *lines):
+    text = "".join(line + "\r\n" for line in lines)
+    (FOLDER / name).write_bytes(text.encode("cp1252"))
+
+
+def write_set(base, board, start, length, revision, config, title):
+    data = image(length, start + length)
+    records = [record(start + i, data[i : i + 16]) for i in range(0, length, 16)]
+    write(f"{base}.hdn", board)
+    write(f"{base}.LTL", title)
+    write(f"{base}.rev", base + mark_hex(sum(data) % 256) + mark_hex(revision))
+    write(f"{base}.HEX", *records, record(0, b"", 1))
+    if config:
+        a, b, c = config
+        write(f"{base}.lcf", f"{LCF_BOARD[board]}{'0' * 34}{a}00{b}{c}000%")
+
+
+def main():
+    FOLDER.mkdir(exist_ok=True)
+    for row in SETS:
+        write_set(*row)
+    for base, board in PLS_SETS:
+        write(f"{base}.hdn", board)
+
+
+main()

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "base/FileSystem.h"
+#include "base/ViewLoop.h"
+#include "link/RSComm.h"
+#include "shell/frmMDIMain.h"
+
+/// What the platform gives: the real services, or their doubles under test. All must outlive the
+/// application.
+struct Platform {
+    Clock& clock;
+    Dialogs& dialogs;
+    BusyDisplay& busy;
+    MSComm& port;
+    const ApplicationFolder& folder;
+    const Drives& drives;
+    std::function<void()> endProgram; ///< ends the event loop
+};
+
+/// The whole program on a platform: the one place where its objects are made and handed to each
+/// other, and where views are made known to the main window.
+class Application {
+public:
+    explicit Application(const Platform& platform);
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    /// Shows the main window and runs its start-up.
+    void Start();
+
+    frmMDIMain& MainWindow() { return window_; }
+    RSComm& Link() { return link_; }
+    ViewLoopRunner& Loops() { return loops_; }
+
+private:
+    void RegisterViews();
+
+    FileSystem files_;
+    RSComm link_;
+    ViewLoopRunner loops_;
+    frmMDIMain window_;
+};

@@ -1,0 +1,36 @@
+#include "app/Application.h"
+#include "base/ApplicationFolder.h"
+#include "base/port/SerialMSComm.h"
+#include "controls/PaintedBusyDisplay.h"
+#include "controls/QtDialogs.h"
+#include "shell/Drives.h"
+#include <QApplication>
+#include <QStandardPaths>
+
+namespace {
+ApplicationFolder FindApplicationFolder() {
+    const QString userFolder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+        QStringLiteral("/quentor");
+    return ApplicationFolder::Locate(QCoreApplication::applicationDirPath(), userFolder,
+                                     QStringLiteral(QUENTOR_INSTALLED_DEFAULTS));
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication qt(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Quentor"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUENTOR_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("quentor"));
+
+    const ApplicationFolder folder = FindApplicationFolder();
+    SystemClock clock;
+    QtDialogs dialogs;
+    PaintedBusyDisplay busy;
+    SystemDrives drives;
+    SerialMSComm port(clock, folder);
+    Application application(
+        {clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
+    application.Start();
+    return QApplication::exec();
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <set>
+#include <vector>
+
+/// The texts of a grid: rows of plain texts, with no object per cell. Rows are counted from 0 with
+/// the fixed rows, which are the heads and do not scroll; columns from 0.
+///
+/// Changes of texts are shown gathered, at most 25 times a second however fast they come; the
+/// texts themselves are always the newest.
+class GridModel final : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    /// Shortest time between two repaints for changed texts, in milliseconds.
+    static constexpr int repaintInterval = 40;
+    /// How long a changed value stays marked, in milliseconds.
+    static constexpr int markTime = 600;
+    /// True for a cell whose value changed a moment ago.
+    static constexpr int ChangedRole = Qt::UserRole;
+
+    explicit GridModel(int fixedRows, QObject* parent = nullptr);
+
+    int Rows() const { return static_cast<int>(rows_.size()); }
+    int Cols() const { return cols_; }
+    int FixedRows() const { return fixedRows_; }
+    /// Adds empty rows or removes rows at the end; never fewer than the fixed rows.
+    void SetRows(int rows);
+    void SetCols(int cols);
+    /// Text of a cell; empty outside the grid.
+    QString Text(int row, int col) const;
+    /// Sets the text of a cell; nothing outside the grid, so that a row may be gone by now.
+    void SetText(int row, int col, const QString& text);
+    /// Puts a row before row `row`, which is held within FixedRows and Rows.
+    void InsertRow(int row, const QStringList& texts);
+    /// Removes a row that is not fixed; nothing for any other.
+    void RemoveRow(int row);
+    /// Empties all cells.
+    void Clear();
+
+    void SetAlignment(int col, Qt::Alignment alignment);
+    /// Shows the column in a font of one width, so that digits stand below digits.
+    void SetFixedPitch(int col);
+    /// Marks a cell as changed for markTime.
+    void MarkChanged(int row, int col);
+    /// Shows what has changed now instead of gathering it.
+    void Flush();
+    /// Goes up by one with every change of a text or of the rows: tells whether anything changed.
+    quint64 Revision() const { return revision_; }
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    using Cell = std::pair<int, int>; // row, column
+
+    struct Column {
+        Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
+        bool fixedPitch = false;
+    };
+    struct Mark {
+        Cell cell;
+        qint64 until;
+    };
+
+    bool Contains(int row, int col) const;
+    QString HeadText(int col) const;
+    void Changed(int row, int col);
+    void ShowChange(int row, int col);
+    void Gather();
+    void ForgetGathered();
+    void DropOldMarks();
+
+    int fixedRows_;
+    int cols_ = 0;
+    std::vector<std::vector<QString>> rows_;
+    std::vector<Column> columns_;
+    quint64 revision_ = 0;
+
+    std::set<Cell> changed_;
+    std::vector<Mark> marks_;
+    QElapsedTimer clock_;
+    qint64 lastShown_ = -repaintInterval;
+    QTimer gatherTimer_;
+    QTimer markTimer_;
+};

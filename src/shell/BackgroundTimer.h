@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class BackgroundUpdate;
+class Dialogs;
+
+/// tmrBackgroungUpdate: drives the background update twice a second while it is enabled. It is off
+/// until the window is up and while a transfer runs.
+class BackgroundTimer : public QObject {
+    Q_OBJECT
+public:
+    /// All must outlive the object.
+    BackgroundTimer(BackgroundUpdate& update, Dialogs& dialogs, QObject* parent);
+
+    void SetEnabled(bool enabled);
+    bool Enabled() const { return timer_->isActive(); }
+
+private:
+    void Tick();
+
+    BackgroundUpdate& update_;
+    Dialogs& dialogs_;
+    QTimer* timer_;
+    QString reported_; // description of the error that was shown last
+    bool reporting_ = false;
+};

@@ -1,0 +1,132 @@
+#include "shell/MdiChildren.h"
+
+#include "shell/frmMain.h"
+#include <QEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+namespace {
+constexpr int cascadeStep = 26; // pixels from one view to the next that opens
+} // namespace
+
+MdiChildren::MdiChildren(QMdiArea& area) : QObject(&area), area_(area) {
+    connect(&area_, &QMdiArea::subWindowActivated, this, &MdiChildren::Activated);
+}
+
+void MdiChildren::SetBrowser(frmMain& browser) {
+    browser_ = &browser;
+    browserFrame_ = area_.addSubWindow(&browser, Qt::FramelessWindowHint);
+    browserFrame_->installEventFilter(this);
+    browserFrame_->setGeometry(area_.viewport()->rect());
+    browser.show();
+}
+
+void MdiChildren::Register(const QString& name, Factory factory) {
+    factories_[name] = std::move(factory);
+}
+
+void MdiChildren::Show(const QString& name) {
+    if (!Knows(name))
+        return;
+    if (!Frame(name))
+        Add(name);
+    QMdiSubWindow* frame = Frame(name);
+    frame->widget()->show();
+    if (frame->isMinimized())
+        frame->showNormal();
+    else
+        frame->show();
+    area_.setActiveSubWindow(frame);
+}
+
+void MdiChildren::Hide(const QString& name) {
+    if (QMdiSubWindow* frame = Frame(name))
+        frame->close();
+}
+
+void MdiChildren::Add(const QString& name) {
+    QMdiSubWindow* frame = area_.addSubWindow(factories_.at(name)());
+    frame->setAttribute(Qt::WA_DeleteOnClose, false); // a view lives on hidden
+    frame->installEventFilter(this);
+    frames_[name] = frame;
+    Place(*frame);
+}
+
+// Into the area that the browser's lists leave free; over them only where it is too small.
+void MdiChildren::Place(QMdiSubWindow& frame) const {
+    const QRect whole = area_.viewport()->rect();
+    QRect free = whole;
+    if (browser_ && browserFrame_) {
+        const QRect area = browser_->FreeArea();
+        free = QRect(browser_->mapTo(area_.viewport(), area.topLeft()), area.size());
+    }
+    const QSize wanted = frame.sizeHint().expandedTo(frame.minimumSizeHint());
+    const int step = cascadeStep * static_cast<int>(frames_.size() - 1);
+    QSize size(qMax(wanted.width(), free.width() - step),
+               qMax(wanted.height(), free.height() - step));
+    size = size.boundedTo(whole.size());
+    const int x = qMin(free.left() + step, whole.width() - size.width());
+    const int y = qMin(free.top() + step, whole.height() - size.height());
+    frame.setGeometry(QRect(QPoint(qMax(0, x), qMax(0, y)), size));
+}
+
+QMdiSubWindow* MdiChildren::Frame(const QString& name) const {
+    const auto found = frames_.find(name);
+    return found == frames_.end() ? nullptr : found->second.data();
+}
+
+QWidget* MdiChildren::View(const QString& name) const {
+    const QMdiSubWindow* frame = Frame(name);
+    return frame ? frame->widget() : nullptr;
+}
+
+bool MdiChildren::IsVisible(const QString& name) const {
+    const QMdiSubWindow* frame = Frame(name);
+    return frame && frame->isVisible();
+}
+
+QString MdiChildren::ActiveName() const {
+    return active_ && active_->widget() ? active_->widget()->objectName() : QString();
+}
+
+ChildView* MdiChildren::Handlers(const QMdiSubWindow* frame) {
+    return frame ? dynamic_cast<ChildView*>(frame->widget()) : nullptr;
+}
+
+// The area reports no active view while another window is in front: the last one stays.
+void MdiChildren::Activated(QMdiSubWindow* frame) {
+    if (browserFrame_)
+        browserFrame_->lower();
+    if (!frame || frame == active_)
+        return;
+    if (ChildView* before = Handlers(active_))
+        before->Form_Deactivate();
+    active_ = frame;
+    if (ChildView* now = Handlers(frame))
+        now->Form_Activate();
+    Q_EMIT ActiveChanged();
+}
+
+void MdiChildren::ResizeAll() {
+    if (browser_)
+        browser_->Form_Resize();
+    for (const auto& [name, frame] : frames_) {
+        ChildView* view = Handlers(frame);
+        if (view && frame->isVisible())
+            view->Form_Resize();
+    }
+}
+
+// The browser cannot be closed, and when the active view is hidden the browser becomes active
+// unless the area finds another one.
+bool MdiChildren::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == browserFrame_ && event->type() == QEvent::Close) {
+        event->ignore();
+        return true;
+    }
+    if (watched == active_ && event->type() == QEvent::Hide && watched != browserFrame_) {
+        if (browserFrame_ && area_.currentSubWindow() == active_)
+            area_.setActiveSubWindow(browserFrame_);
+    }
+    return QObject::eventFilter(watched, event);
+}

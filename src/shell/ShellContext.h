@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+
+class ApplicationFolder;
+class Clock;
+class Dialogs;
+class Drives;
+class FileSystem;
+class MSComm;
+class RSComm;
+
+/// What the main window is built on. All must outlive it.
+struct ShellContext {
+    RSComm& link;
+    MSComm& port;
+    Dialogs& dialogs;
+    Clock& clock;
+    const ApplicationFolder& folder;
+    FileSystem& files;
+    const Drives& drives;
+    std::function<void()> endProgram; ///< called once, at the end of the shut-down
+};

@@ -1,0 +1,67 @@
+#include "shell/Drives.h"
+#include "shell/frmMain.h"
+#include "shell/frmMDIMain.h"
+#include "shell/Icons.h"
+#include <QMdiArea>
+#include <QScreen>
+#include <QStatusBar>
+
+// How the main window is put together.
+
+namespace {
+constexpr QSize usualSize(1280, 800);
+constexpr QSize smallestSize(640, 400);
+} // namespace
+
+void frmMDIMain::BuildForm() {
+    setObjectName(QStringLiteral("frmMDIMain"));
+    setWindowTitle(QStringLiteral("Quentor"));
+    setWindowIcon(ShellIcon(QStringLiteral("Quentor")));
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolbar stays
+    setMinimumSize(smallestSize);
+    area_ = new QMdiArea;
+    area_->setBackground(palette().mid());
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(area_);
+    surface_ = new CommandSurface(*this, context_.dialogs);
+    panels_ = new StatusPanels(*statusBar(), context_.clock);
+    children_ = new MdiChildren(*area_);
+    browser_ = new frmMain(context_.link, context_.dialogs, context_.files, context_.drives,
+                           context_.folder, this);
+    browser_->hide();
+    timer_ = new BackgroundTimer(update_, context_.dialogs, this);
+}
+
+void frmMDIMain::SizeToScreen() {
+    const QSize room = screen()->availableSize();
+    resize(usualSize.boundedTo(room));
+    if (room.width() <= usualSize.width() || room.height() <= usualSize.height())
+        showMaximized();
+    else
+        show();
+}
+
+void frmMDIMain::ConnectBrowser() {
+    connect(browser_, &frmMain::SelectionChanged, this, &frmMDIMain::RefreshCommandState);
+    connect(browser_, &frmMain::PopupRequested, this, &frmMDIMain::PopUpFileList);
+    connect(browser_, &frmMain::OpenRequested, this, &frmMDIMain::mnuFileListPopupOpen_Click);
+    connect(browser_, &frmMain::FileDoubleClicked, this, &frmMDIMain::filFileList_DblClick);
+    connect(browser_, &frmMain::DeleteRequested, this,
+            [this] { surface_->Run(QStringLiteral("mnuFileListPopupDelete")); });
+    connect(children_, &MdiChildren::ActiveChanged, this, &frmMDIMain::RefreshCommandState);
+    connect(surface_, &CommandSurface::HandlersChanged, this, &frmMDIMain::RefreshCommandState);
+    connect(panels_, &StatusPanels::PanelDoubleClicked, this, &frmMDIMain::sbrMain_PanelDblClick);
+}
+
+void frmMDIMain::RegisterCommands() {
+    surface_->Handle(QStringLiteral("mnuFileExit"), [this] { mnuFileExit_Click(); });
+    surface_->Handle(QStringLiteral("mnuViewOnline"), [this] { mode_.GoOnline(); });
+    surface_->Handle(QStringLiteral("mnuViewOffline"), [this] { mode_.GoOffline(); });
+    surface_->Handle(QStringLiteral("mnuFileDownloadProgram"),
+                     [this] { programs_->DownloadProgram(false); });
+    surface_->Handle(QStringLiteral("mnuFileListPopupDownloadProg"),
+                     [this] { programs_->DownloadProgram(true); });
+    surface_->SetButtonHandler(
+        [this](const ToolbarEntry& button) { Toolbar1_ButtonClick(button); });
+}

@@ -1,0 +1,39 @@
+#include "statustable/OfflineData.h"
+
+#include "base/FileSystem.h"
+#include "base/NumberReader.h"
+#include "base/TextFile.h"
+#include "link/MarkHex.h"
+#include "link/TargetBoards.h"
+
+namespace {
+constexpr int firstOfShortImage = 70; // a short image holds the addresses 70 to 219
+
+int FirstAddress(qint16 board) {
+    const bool wholeMemory = board == BoardIndex::K2012 || board == BoardIndex::R6500PLC;
+    return wholeMemory ? 0 : firstOfShortImage;
+}
+} // namespace
+
+int OfflineData::ByteAt(qint64 address) const {
+    return address >= 0 && address < static_cast<qint64>(bytes_.size()) ? bytes_[address] : 0;
+}
+
+void OfflineData::Fill(const QString& text, int first) {
+    bytes_.assign(size, 0);
+    const QStringView pairs(text);
+    int address = first;
+    for (qsizetype at = 0; at < pairs.size() && address < size; at += 2, ++address)
+        bytes_[address] = static_cast<std::uint8_t>(HexNumberValue(pairs.mid(at, 2)));
+}
+
+OfflineDataState ReadOfflineData(const QString& path, qint16 board, OfflineData& data) {
+    if (!FileSystem().FileExists(path))
+        return OfflineDataState::Missing;
+    TextReader reader(path);
+    if (reader.AtEnd())
+        return OfflineDataState::Empty;
+    QString text = reader.InputItem();
+    data.Fill(MarkHex2HEX(text), FirstAddress(board));
+    return OfflineDataState::Loaded;
+}

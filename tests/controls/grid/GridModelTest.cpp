@@ -1,0 +1,132 @@
+#include "controls/grid/GridModel.h"
+
+#include "support/PrintText.h"
+#include <gtest/gtest.h>
+#include <QAbstractItemModelTester>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+class GridModelRows : public testing::Test {
+protected:
+    GridModelRows() {
+        model.SetCols(3);
+        model.SetRows(6);
+        for (int row = 0; row < 6; ++row)
+            model.SetText(row, 1, QString("row %1").arg(row));
+        model.Flush();
+    }
+
+    QStringList Column() const {
+        QStringList texts;
+        for (int row = 2; row < model.Rows(); ++row)
+            texts += model.Text(row, 1);
+        return texts;
+    }
+
+    GridModel model{2};
+    QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+} // namespace
+
+TEST_F(GridModelRows, FixedRowsAreTheHeads) {
+    EXPECT_EQ(model.rowCount(), 4);
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(),
+              QString("row 0\nrow 1"));
+    EXPECT_EQ(model.data(model.index(0, 1), Qt::DisplayRole).toString(), QString("row 2"));
+}
+
+TEST_F(GridModelRows, RowsComeAndGo) {
+    model.InsertRow(3, {"", "new"});
+    EXPECT_EQ(Column(), (QStringList{"row 2", "new", "row 3", "row 4", "row 5"}));
+    model.RemoveRow(2);
+    EXPECT_EQ(Column(), (QStringList{"new", "row 3", "row 4", "row 5"}));
+    model.InsertRow(99, {"", "last"});
+    EXPECT_EQ(Column().last(), QString("last"));
+    model.SetRows(3);
+    EXPECT_EQ(Column(), QStringList{"new"});
+    model.SetRows(0);
+    EXPECT_EQ(model.Rows(), 2);
+}
+
+TEST_F(GridModelRows, FixedRowsStay) {
+    model.RemoveRow(1);
+    model.RemoveRow(-1);
+    model.RemoveRow(6);
+    EXPECT_EQ(model.Rows(), 6);
+    model.InsertRow(0, {"", "top"});
+    EXPECT_EQ(model.Text(2, 1), QString("top"));
+}
+
+TEST_F(GridModelRows, OutsideTheGridIsNothing) {
+    model.SetText(99, 1, "x");
+    model.SetText(2, 3, "x");
+    model.SetText(-1, 0, "x");
+    EXPECT_EQ(model.Text(99, 1), QString());
+    EXPECT_EQ(model.Text(2, -1), QString());
+    EXPECT_FALSE(model.data(QModelIndex(), Qt::DisplayRole).isValid());
+}
+
+TEST_F(GridModelRows, ClearEmptiesHeadsAndRows) {
+    model.Clear();
+    EXPECT_EQ(model.Rows(), 6);
+    for (int row = 0; row < 6; ++row)
+        EXPECT_EQ(model.Text(row, 1), QString());
+}
+
+TEST_F(GridModelRows, RevisionTellsWhetherAnythingChanged) {
+    const quint64 before = model.Revision();
+    model.SetText(2, 1, "row 2");
+    EXPECT_EQ(model.Revision(), before);
+    model.SetText(2, 1, "other");
+    EXPECT_NE(model.Revision(), before);
+}
+
+TEST_F(GridModelRows, RepaintsAreGatheredToAtMost25ASecond) {
+    QSignalSpy repaints(&model, &GridModel::dataChanged);
+    QElapsedTimer timer;
+    timer.start();
+    int value = 0;
+    while (timer.elapsed() < 400) {
+        model.SetText(2, 1, QString::number(++value));
+        QTest::qWait(1);
+    }
+    EXPECT_GT(value, 50);
+    EXPECT_LE(repaints.size(), 2 + timer.elapsed() / GridModel::repaintInterval);
+    EXPECT_GE(repaints.size(), 2);
+}
+
+TEST_F(GridModelRows, FlushShowsAtOnce) {
+    QSignalSpy repaints(&model, &GridModel::dataChanged);
+    model.SetText(2, 1, "typed");
+    model.SetText(3, 1, "typed");
+    EXPECT_EQ(repaints.size(), 0);
+    model.Flush();
+    EXPECT_EQ(repaints.size(), 2);
+}
+
+TEST_F(GridModelRows, ManyChangesAreShownAsOne) {
+    model.SetRows(1000);
+    model.Flush();
+    QSignalSpy repaints(&model, &GridModel::dataChanged);
+    for (int row = 2; row < 1000; ++row)
+        model.SetText(row, 0, "x");
+    model.Flush();
+    EXPECT_EQ(repaints.size(), 1);
+}
+
+TEST_F(GridModelRows, AMarkGoesOutAgain) {
+    model.MarkChanged(3, 1);
+    const QModelIndex cell = model.index(1, 1);
+    EXPECT_TRUE(cell.data(GridModel::ChangedRole).toBool());
+    EXPECT_FALSE(model.index(0, 1).data(GridModel::ChangedRole).toBool());
+    QTRY_VERIFY_WITH_TIMEOUT(!cell.data(GridModel::ChangedRole).toBool(), 5000);
+}
+
+TEST_F(GridModelRows, MarksEndWhenRowsComeOrGo) {
+    model.MarkChanged(3, 1);
+    model.InsertRow(2, {});
+    for (int row = 0; row < model.rowCount(); ++row)
+        EXPECT_FALSE(model.index(row, 1).data(GridModel::ChangedRole).toBool());
+}

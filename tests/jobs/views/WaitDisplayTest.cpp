@@ -1,0 +1,200 @@
+#include "base/RunTimeError.h"
+#include "jobs/JobsFixture.h"
+#include "jobs/views/frmWaitDisplay.h"
+#include "jobs/views/WaitJobRunner.h"
+#include "jobs/WaitJobs.h"
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFrame>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+QWidget* BusyView() {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal && modal->objectName() == "frmWaitDisplay" ? modal : nullptr;
+}
+
+template <class T>
+T* Part(const char* name) {
+    return BusyView() ? BusyView()->findChild<T*>(QString::fromLatin1(name)) : nullptr;
+}
+
+// Counts how often a widget is painted.
+class PaintCount final : public QObject {
+public:
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+class WaitDisplay : public JobsFixture {
+protected:
+    WaitDisplay() { backgroundUpdate.setInterval(500); }
+    ~WaitDisplay() override { EXPECT_EQ(QApplication::activeModalWidget(), nullptr); }
+
+    // Runs job `code` with this routine, which is given the view while it is up.
+    void RunWith(qint16 code, WaitJobs::Routine routine) {
+        jobs.Register(code, std::move(routine));
+        runner.RunWaitJob(code);
+    }
+
+    WaitJobs jobs;
+    QTimer backgroundUpdate;
+    WaitJobRunner runner{jobs, backgroundUpdate, clock, nullptr};
+};
+} // namespace
+
+TEST_F(WaitDisplay, ShowsTheMessageOfTheJobAndGoesAwayWithIt) {
+    gXferMode = XferMode::Download;
+    bool ran = false;
+    RunWith(WaitJob::TransferData, [&](JobProgress&) {
+        ran = true;
+        ASSERT_TRUE(BusyView());
+        EXPECT_TRUE(BusyView()->isVisible());
+        EXPECT_EQ(Part<QLabel>("lblWaitDisplay")->text(),
+                  "Downloading Target Board Data, Please Standby ...");
+        EXPECT_TRUE(Part<QPushButton>("cmdCancel")->isEnabled());
+        EXPECT_TRUE(Part<QProgressBar>("pbrWaitDisplay")->isVisible());
+        EXPECT_FALSE(Part<QLabel>("lblSetpointRecall")->isVisible());
+        EXPECT_EQ(gWaitJob, 4);
+    });
+    EXPECT_TRUE(ran);
+}
+
+TEST_F(WaitDisplay, PrintingHasItsMessageAtHalfTheFrameAndNoBar) {
+    RunWith(WaitJob::PrintTrendData, [&](JobProgress& shown) {
+        shown.Yield();
+        const auto* frame = Part<QFrame>("fraWaitDisplay");
+        EXPECT_NEAR(Part<QLabel>("lblWaitDisplay")->y(), frame->height() / 2, 2);
+        EXPECT_FALSE(Part<QPushButton>("cmdCancel")->isEnabled());
+        EXPECT_FALSE(Part<QProgressBar>("pbrWaitDisplay")->isVisible());
+    });
+}
+
+TEST_F(WaitDisplay, MovingAPLSShowsTheSecondLineAndCannotBeCancelled) {
+    for (const qint16 code : {6, 7, 8})
+        RunWith(code, [code](JobProgress& shown) {
+            EXPECT_EQ(Part<QLabel>("lblSetpointRecall")->isVisible(), code != 8);
+            QTest::mouseClick(Part<QPushButton>("cmdCancel"), Qt::LeftButton);
+            QTest::keyClick(BusyView(), Qt::Key_Escape);
+            shown.Yield();
+            EXPECT_FALSE(shown.Cancelled());
+        });
+}
+
+TEST_F(WaitDisplay, CancelAndEscapeAndTheCloseBoxSetTheFlagAndNothingElse) {
+    const std::function<void()> ways[] = {
+        [] { QTest::mouseClick(Part<QPushButton>("cmdCancel"), Qt::LeftButton); },
+        [] { QTest::keyClick(BusyView(), Qt::Key_Escape); },
+        [] { BusyView()->close(); },
+    };
+    for (const auto& way : ways)
+        RunWith(WaitJob::TransferData, [&](JobProgress& shown) {
+            EXPECT_FALSE(shown.Cancelled());
+            way();
+            EXPECT_TRUE(shown.Cancelled());
+            ASSERT_TRUE(BusyView());
+            EXPECT_TRUE(BusyView()->isVisible());
+            shown.ClearCancel();
+            EXPECT_FALSE(shown.Cancelled());
+        });
+}
+
+TEST_F(WaitDisplay, CodeWithoutARoutineShowsTheViewAndEnds) {
+    backgroundUpdate.start();
+    runner.RunWaitJob(0);
+    runner.RunWaitJob(WaitJob::ReadNames);
+    EXPECT_EQ(gWaitJob, 2);
+    EXPECT_TRUE(backgroundUpdate.isActive());
+}
+
+TEST_F(WaitDisplay, BackgroundUpdateStandsStillDuringTheJobAndGoesOnAfterIt) {
+    backgroundUpdate.start();
+    RunWith(WaitJob::TransferData,
+            [&](JobProgress&) { EXPECT_FALSE(backgroundUpdate.isActive()); });
+    EXPECT_TRUE(backgroundUpdate.isActive());
+}
+
+TEST_F(WaitDisplay, FailureOfAJobPassesOnAndLeavesNothingBehind) {
+    EXPECT_THROW(RunWith(WaitJob::ReadAddresses, [](JobProgress&) { throw RunTimeError(9); }),
+                 RunTimeError);
+    EXPECT_TRUE(backgroundUpdate.isActive());
+    EXPECT_EQ(BusyView(), nullptr);
+    RunWith(WaitJob::ReadAddresses, [](JobProgress&) {});
+}
+
+TEST_F(WaitDisplay, JobWithinAJobIsRefused) {
+    int refused = 0;
+    RunWith(WaitJob::TransferData, [&](JobProgress&) {
+        try {
+            runner.RunWaitJob(WaitJob::ReadNames);
+        } catch (const RunTimeError& error) {
+            refused = error.Number();
+        }
+    });
+    EXPECT_EQ(refused, ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(gWaitJob, 4);
+}
+
+TEST_F(WaitDisplay, ShowsProgressTimePassedAndWhatRemains) {
+    RunWith(WaitJob::TransferData, [&](JobProgress& shown) {
+        shown.SetRange(0, 1000);
+        shown.SetValue(600);
+        shown.SetValue(700);
+        shown.ShowMessage(QStringLiteral("Uploaded  1 from B699"));
+        shown.ShowSecondLine(QStringLiteral("second"));
+        clock.Wait(10);
+        QTest::qWait(2 * frmWaitDisplay::repaintInterval);
+        EXPECT_EQ(Part<QLabel>("lblWaitDisplay")->text(), "Uploaded  1 from B699");
+        EXPECT_EQ(Part<QLabel>("lblSetpointRecall")->text(), "second");
+        EXPECT_EQ(Part<QProgressBar>("pbrWaitDisplay")->value(), 700);
+        EXPECT_EQ(Part<QProgressBar>("pbrWaitDisplay")->maximum(), 1000);
+        EXPECT_EQ(Part<QLabel>("lblJobTime")->text(), "Time passed 0:10, about 0:30 left");
+    });
+}
+
+TEST_F(WaitDisplay, RepaintsAtMost25TimesASecond) {
+    PaintCount paints;
+    int messages = 0;
+    qint64 lasted = 0;
+    RunWith(WaitJob::TransferData, [&](JobProgress& shown) {
+        shown.Yield();
+        Part<QLabel>("lblWaitDisplay")->installEventFilter(&paints);
+        QElapsedTimer time;
+        for (time.start(); time.elapsed() < 200; ++messages) {
+            shown.ShowMessage(QString::number(messages));
+            shown.Yield();
+        }
+        lasted = time.elapsed();
+    });
+    EXPECT_GT(messages, 100);
+    EXPECT_GE(paints.count, 1);
+    EXPECT_LE(paints.count, lasted / frmWaitDisplay::repaintInterval + 1);
+}
+
+TEST_F(WaitDisplay, ClickOnCancelIsTakenWithinOneAddress) {
+    jobs.Register(WaitJob::TransferData, [&](JobProgress& p) { transfer.TransferData(p); });
+    SetTransfer(XferMode::Download, 51, 70, 219);
+    BoardTakes(Run(70, std::vector<int>(150, 0)));
+    QTimer user;
+    int turns = 0;
+    std::size_t sentAtClick = 0;
+    QObject::connect(&user, &QTimer::timeout, &user, [&] {
+        if (++turns != 20)
+            return;
+        sentAtClick = port.Sent().size();
+        QTest::mouseClick(Part<QPushButton>("cmdCancel"), Qt::LeftButton);
+    });
+    user.start(0);
+    runner.RunWaitJob(WaitJob::TransferData);
+    ASSERT_GT(sentAtClick, 2u);
+    EXPECT_LT(sentAtClick, 2u + 150 * 3);
+    EXPECT_EQ(port.Sent().size(), sentAtClick);
+    EXPECT_EQ((port.Sent().size() - 2) % 3, 0u) << "never inside an address";
+}

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "app/Application.h"
+#include "base/ApplicationFolder.h"
+#include "shell/Drives.h"
+#include "support/ScriptedDialogs.h"
+#include "support/ScriptedPort.h"
+#include "support/VirtualClock.h"
+#include <gtest/gtest.h>
+#include <memory>
+#include <QSet>
+#include <QTemporaryDir>
+
+class QAction;
+class QModelIndex;
+
+/// Drives that a test decides on.
+class ScriptedDrives final : public Drives {
+public:
+    QStringList List() const override { return roots; }
+    bool IsReady(const QString& drive) const override { return !notReady.contains(drive); }
+
+    QStringList roots = {QStringLiteral("/")};
+    QSet<QString> notReady;
+};
+
+/// The whole program on doubles: a temporary application folder with a support folder, a folder of
+/// sample program sets, a scripted port and prompts, virtual time. No tick comes by itself within
+/// the half second that a test may take; Tick() gives one.
+class WholeWindow : public testing::Test {
+protected:
+    WholeWindow();
+    ~WholeWindow() override;
+
+    /// Builds the application and runs its start-up.
+    void Start();
+    /// Ends the application; Start may follow.
+    void Stop();
+
+    frmMDIMain& Window() { return application_->MainWindow(); }
+    RSComm& Link() { return application_->Link(); }
+    /// One tick of tmrBackgroungUpdate, as though its time had come.
+    void Tick();
+
+    /// The child of the main window of this object name; fails the test if there is none.
+    template <typename T>
+    T* Find(const QString& name) {
+        T* child = Window().findChild<T*>(name);
+        EXPECT_NE(child, nullptr) << name.toStdString();
+        return child;
+    }
+    /// The action of a menu entry or toolbar button.
+    QAction* Entry(const QString& name);
+    QString Panel(int index);
+
+    /// Writes a file below the folder of the program sets and returns its path.
+    QString WriteSetFile(const QString& name, const QByteArray& content);
+    /// Writes HD2000.dat with these lines.
+    void WriteRecentList(const QByteArrayList& lines);
+    QByteArrayList RecentListOnDisk() const;
+    QString AppPath(const QString& relative) const;
+    QString SetPath(const QString& name) const;
+
+    /// Clicks the entry of this name in filFileList with the mouse.
+    void ClickSet(const QString& fileName, Qt::MouseButton button = Qt::LeftButton);
+    /// Texts of the tree: the root, then its children.
+    QStringList TreeTexts();
+    /// Double-clicks the node of this text.
+    void DoubleClickNode(const QString& text);
+    /// Moves the browser to the folder of the program sets.
+    void GoToSets();
+
+    QTemporaryDir root_;
+    VirtualClock clock_;
+    ScriptedDialogs dialogs_;
+    ScriptedPort port_{clock_};
+    NoBusyDisplay busy_;
+    ScriptedDrives drives_;
+    std::unique_ptr<ApplicationFolder> folder_;
+    std::unique_ptr<Application> application_;
+    int ended_ = 0; ///< how often the program was ended
+
+private:
+    QString startDirectory_;
+};
