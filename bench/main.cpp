@@ -1,3 +1,4 @@
+#include "bench/DataTransferBench.h"
 #include "bench/DumpRow.h"
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
@@ -6,7 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <thread>
 
@@ -22,6 +23,8 @@ std::vector<bench::Row> MeasureAll() {
     for (const bench::Row& row : bench::MeasurePacedReads(board))
         rows.push_back(row);
     rows.push_back(bench::MeasureDump(board));
+    for (const bench::Row& row : bench::MeasureDataTransfers(board))
+        rows.push_back(row);
     return rows;
 }
 // Bytes are paced by time-outs and handed over by threads that must get a processor in time: what
@@ -35,7 +38,9 @@ void PrintMachine() {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // the busy view is measured without a screen too
+    const QApplication application(argc, argv);
     try {
         PrintMachine();
         const auto rows = MeasureAll();
