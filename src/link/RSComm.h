@@ -17,7 +17,7 @@ class Dialogs;
 class HexImage;
 class MSComm;
 class RunTimeError;
-class WaitDisplay;
+class LongWait;
 struct HexLine;
 
 /// Result of an exchange that got no reply; no byte has this value.
@@ -156,7 +156,7 @@ private:
                      InputBuffer input = InputBuffer::Keep);
     int ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input);
     int AwaitReply();
-    bool InputArrives(double deadline, WaitDisplay& display);
+    bool InputArrives(double deadline, LongWait& display);
     bool InputArrivesWithin(double seconds);
     void SendByte(std::uint8_t byte);
     bool UserRetries(const QString& text);
