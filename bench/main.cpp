@@ -2,13 +2,17 @@
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
 #include "bench/Row.h"
+#include "bench/StartRows.h"
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <functional>
 #include <QCoreApplication>
 #include <QDir>
+#include <QStringList>
 #include <thread>
+#include <utility>
 
 namespace {
 // The programs stand beside this one.
@@ -16,14 +20,28 @@ QString Beside(const QString& program) {
     return QDir(QCoreApplication::applicationDirPath()).filePath(program);
 }
 
-std::vector<bench::Row> MeasureAll() {
+// The measurements by name, in the order in which they run.
+using Measurement = std::pair<QString, std::function<std::vector<bench::Row>()>>;
+
+std::vector<Measurement> Measurements() {
     const QString board = Beside(QStringLiteral("halden-board"));
-    std::vector<bench::Row> rows{bench::MeasureExchanges()};
-    for (const bench::Row& row : bench::MeasurePacedReads(board))
-        rows.push_back(row);
-    rows.push_back(bench::MeasureDump(board));
+    return {{QStringLiteral("exchanges"), [] { return std::vector{bench::MeasureExchanges()}; }},
+            {QStringLiteral("reads"), [board] { return bench::MeasurePacedReads(board); }},
+            {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
+            {QStringLiteral("start"),
+             [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
+}
+
+// Runs those that are named, or all.
+std::vector<bench::Row> Measure(const QStringList& names) {
+    std::vector<bench::Row> rows;
+    for (const auto& [name, measure] : Measurements())
+        if (names.isEmpty() || names.contains(name))
+            for (const bench::Row& row : measure())
+                rows.push_back(row);
     return rows;
 }
+
 // Bytes are paced by time-outs and handed over by threads that must get a processor in time: what
 // else runs on the machine shows in every figure.
 void PrintMachine() {
@@ -38,7 +56,7 @@ int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     try {
         PrintMachine();
-        const auto rows = MeasureAll();
+        const auto rows = Measure(application.arguments().mid(1));
         std::fputs(bench::TableText(rows).toLocal8Bit().constData(), stdout);
         return std::all_of(rows.begin(), rows.end(), bench::IsReached) ? EXIT_SUCCESS
                                                                        : EXIT_FAILURE;
