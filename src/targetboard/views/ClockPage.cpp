@@ -24,14 +24,14 @@ QPushButton* Button(const QString& name, const QString& caption) {
 ClockPage::ClockPage(NumericEntries& entries, QWidget* parent)
     : QFrame(parent), lblTargetBoardTime_(PlainLabel(QStringLiteral("lblTargetBoardTime"),
                                                      QStringLiteral("Target Board Time:"))),
-      lblTargetBoardDate_(PlainLabel(QStringLiteral("lblTargetBoardDate"),
-                                     QStringLiteral("Target Board Date:"))),
+      lblTargetBoardDate_(
+          PlainLabel(QStringLiteral("lblTargetBoardDate"), QStringLiteral("Target Board Date:"))),
       lblCurrTime_(PlainLabel(QStringLiteral("lblCurrTime"))),
       lblCurrDate_(PlainLabel(QStringLiteral("lblCurrDate"))),
-      cmdSetToCurrTime_(Button(QStringLiteral("cmdSetToCurrTime"),
-                               QStringLiteral("Set to Current &Time"))),
-      cmdSetToCurrDate_(Button(QStringLiteral("cmdSetToCurrDate"),
-                               QStringLiteral("Set to Current &Date"))) {
+      cmdSetToCurrTime_(
+          Button(QStringLiteral("cmdSetToCurrTime"), QStringLiteral("Set to Current &Time"))),
+      cmdSetToCurrDate_(
+          Button(QStringLiteral("cmdSetToCurrDate"), QStringLiteral("Set to Current &Date"))) {
     setObjectName(IndexedName("fraTargetBoard", 3));
     parts_.reserve(2 * entriesPerHalf);
     auto* form = new QVBoxLayout(this);

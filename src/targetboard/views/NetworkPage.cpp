@@ -15,9 +15,9 @@ NetworkPage::NetworkPage(NumericEntries& entries, QWidget* parent) : QFrame(pare
         form->addWidget(entry.Pair(), i, 1);
     }
     form->setRowMinimumHeight(firstClockEntry, form->verticalSpacing() * 2);
-    form->addWidget(WrappedLabel(QStringLiteral("lblNetworkAddComment"),
-                                 TargetBoardText::NetworkAddComment()),
-                    firstClockEntry + 1, 0, 1, 2);
+    form->addWidget(
+        WrappedLabel(QStringLiteral("lblNetworkAddComment"), TargetBoardText::NetworkAddComment()),
+        firstClockEntry + 1, 0, 1, 2);
     form->setRowStretch(firstClockEntry + 2, 1);
     form->setColumnStretch(1, 1);
 }

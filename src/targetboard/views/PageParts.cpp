@@ -27,7 +27,8 @@ QPlainTextEdit* ReadOnlyBox(const QString& objectName, const QString& accessible
     box->setAccessibleName(accessibleName);
     box->setReadOnly(true);
     box->setTabChangesFocus(true);
-    const int frame = 2 * box->frameWidth() + 2 * static_cast<int>(box->document()->documentMargin());
+    const int frame =
+        2 * box->frameWidth() + 2 * static_cast<int>(box->document()->documentMargin());
     box->setMinimumHeight(lines * QFontMetrics(box->font()).lineSpacing() + frame + 2);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     return box;

@@ -35,8 +35,7 @@ frmTargetBoard::~frmTargetBoard() {
 
 void frmTargetBoard::BuildForm(Dialogs& dialogs) {
     cmdDefault_ = MakeDefaultButton(*this);
-    entries_ =
-        new NumericEntries(setupEntryCount, dialogs, *cmdDefault_, &SetupRefusalTitle, this);
+    entries_ = new NumericEntries(setupEntryCount, dialogs, *cmdDefault_, &SetupRefusalTitle, this);
     tabTargetBoard_ = new QTabBar;
     tabTargetBoard_->setObjectName(QStringLiteral("tabTargetBoard"));
     tabTargetBoard_->setFocusPolicy(Qt::StrongFocus); // a click leaves an entry, which is checked
@@ -48,7 +47,8 @@ void frmTargetBoard::BuildForm(Dialogs& dialogs) {
     frames_->addWidget(identPage_ = new IdentPage);
     frames_->addWidget(networkPage_ = new NetworkPage(*entries_));
     frames_->addWidget(clockPage_ = new ClockPage(*entries_));
-    frames_->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Raised));
+    frames_->setFrameStyle(static_cast<int>(QFrame::StyledPanel) |
+                           static_cast<int>(QFrame::Raised));
     cmdGoOnline_ = new QPushButton(QStringLiteral("&Go Online"));
     cmdGoOnline_->setObjectName(QStringLiteral("cmdGoOnline"));
     cmdOk_ = new QPushButton(QStringLiteral("&OK"));
