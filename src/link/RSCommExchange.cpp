@@ -3,7 +3,7 @@
 #include "base/MSComm.h"
 #include "base/RunTimeError.h"
 #include "link/RSComm.h"
-#include "link/WaitDisplay.h"
+#include "link/LongWait.h"
 #include <algorithm>
 
 namespace {
@@ -61,7 +61,7 @@ int RSComm::ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input) 
 // returned as though it answered the byte first sent, and the callers notice by the link mode and
 // their echo.
 int RSComm::AwaitReply() {
-    WaitDisplay display(busy_, clock_);
+    LongWait display(busy_, clock_);
     double deadline = clock_.MonotonicSeconds() + firstReplyTime;
     int timeOuts = 0;
     while (!InputArrives(deadline, display)) {
@@ -97,13 +97,13 @@ bool RSComm::UserRetriesLine() {
 }
 
 bool RSComm::InputArrivesWithin(double seconds) {
-    WaitDisplay display(busy_, clock_);
+    LongWait display(busy_, clock_);
     return InputArrives(clock_.MonotonicSeconds() + seconds, display);
 }
 
 // Waits for a received byte until `deadline`. When the port is lost on the way the time passes all
 // the same: a time-out counts only when it is one.
-bool RSComm::InputArrives(double deadline, WaitDisplay& display) {
+bool RSComm::InputArrives(double deadline, LongWait& display) {
     if (port_->InBufferCount() >= 1)
         return true;
     for (;;) {
@@ -120,7 +120,7 @@ bool RSComm::InputArrives(double deadline, WaitDisplay& display) {
 }
 
 void RSComm::WaitSeconds(double seconds) {
-    WaitDisplay display(busy_, clock_);
+    LongWait display(busy_, clock_);
     const double deadline = clock_.MonotonicSeconds() + seconds;
     for (double now = clock_.MonotonicSeconds(); now < deadline; now = clock_.MonotonicSeconds())
         clock_.Wait(std::min(deadline, display.Look(now)) - now);

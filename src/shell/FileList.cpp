@@ -7,7 +7,7 @@
 #include <QScopedValueRollback>
 
 namespace {
-constexpr int iconSize = 16; // pixels at 100 per cent
+constexpr int rowIconSize = 16; // pixels at 100 per cent
 } // namespace
 
 QVariant FileListModel::data(const QModelIndex& index, int role) const {
@@ -18,7 +18,7 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
 FileList::FileList(QWidget* parent) : QListView(parent) {
     setModel(&names_);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setIconSize(QSize(iconSize, iconSize));
+    setIconSize(QSize(rowIconSize, rowIconSize));
     setUniformItemSizes(true); // a folder may hold thousands of sets
     setTabKeyNavigation(false);
 }

@@ -84,6 +84,7 @@ TEST(ParsedAddress, IsTotal) {
     ExpectParsed("Bx", u'B', 0);
     ExpectParsed("B-5", u'B', -5);
     ExpectParsed("B1.5H", u'B', 0xB1 * 256); // ".5" holds no hexadecimal digit
+    ExpectBit("B1234.", 123, 1); // the last two characters are the bit, whatever they are
     ExpectBit(".", 0, 1);
     ExpectBit("B.", 0, 1);
     ExpectBit("B.7", 0, 0x80);

@@ -30,6 +30,7 @@ TEST_F(TargetMode, AttentionDiscardsWhatLiesInTheInputBuffer) {
     AcceptHandshake();
     AnswerRead(0, 8);
     EXPECT_EQ(ReadB100(), QStringLiteral("8"));
+    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x01, 0, 100}));
 }
 
 TEST_F(TargetMode, AnotherAnswerToTheAttentionIsTriedAgain) {

@@ -3,12 +3,12 @@
 #include "base/Clock.h"
 
 /// Tells the busy display of one wait, once it has become a long one, and of its end.
-class WaitDisplay {
+class LongWait {
 public:
-    WaitDisplay(BusyDisplay& busy, const Clock& clock) : busy_(busy), clock_(clock) { Begin(); }
-    ~WaitDisplay() { End(); }
-    WaitDisplay(const WaitDisplay&) = delete;
-    WaitDisplay& operator=(const WaitDisplay&) = delete;
+    LongWait(BusyDisplay& busy, const Clock& clock) : busy_(busy), clock_(clock) { Begin(); }
+    ~LongWait() { End(); }
+    LongWait(const LongWait&) = delete;
+    LongWait& operator=(const LongWait&) = delete;
 
     /// A wait starts now: again, after a box that came between.
     void Begin() { start_ = clock_.MonotonicSeconds(); }
