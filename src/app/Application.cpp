@@ -2,12 +2,16 @@
 
 #include "controls/ViewHelpers.h"
 #include "link/views/frmDownloadProg.h"
+#include "link/views/frmSetupComm.h"
+#include "shell/frmCopyFile.h"
+#include "shell/frmMain.h"
+#include "shell/frmNewFile.h"
 
 Application::Application(const Platform& platform)
-    : link_(platform.dialogs, platform.clock, platform.busy, platform.folder),
+    : platform_(platform), link_(platform.dialogs, platform.clock, platform.busy, platform.folder),
       loops_(BlockedByModalView),
       window_(ShellContext{link_, platform.port, platform.dialogs, platform.clock, platform.folder,
-                           files_, platform.drives, platform.endProgram}) {
+                           files_, fileOperations_, platform.drives, platform.endProgram}) {
     RegisterViews();
 }
 
@@ -23,6 +27,27 @@ void Application::RegisterViews() {
     window_.Views().frmDownloadProg = [this](qint16 mode) {
         frmDownloadProg view(link_, &window_);
         view.SetTransferMode(mode);
+        view.exec();
+    };
+    window_.Views().frmSetupComm = [this] {
+        frmSetupComm view({link_, platform_.port, platform_.dialogs, platform_.clock,
+                           platform_.ports, platform_.folder},
+                          &window_);
+        view.exec();
+    };
+    RegisterSetViews();
+}
+
+void Application::RegisterSetViews() {
+    const SetFiles context{link_,           platform_.dialogs, files_,
+                           fileOperations_, platform_.drives,  window_.Browser()};
+    window_.Views().frmNewFile = [this, context](qint16 mode) {
+        frmNewFile view(context, platform_.tools, platform_.folder, &window_);
+        view.SetNewFileMode(mode);
+        view.exec();
+    };
+    window_.Views().frmCopyFile = [this, context] {
+        frmCopyFile view(context, &window_);
         view.exec();
     };
 }

@@ -3,7 +3,11 @@
 #include "base/FileSystem.h"
 #include "base/ViewLoop.h"
 #include "link/RSComm.h"
+#include "programset/FileOperations.h"
 #include "shell/frmMDIMain.h"
+
+class ProcessStart;
+class SerialPorts;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
 /// application.
@@ -14,6 +18,8 @@ struct Platform {
     MSComm& port;
     const ApplicationFolder& folder;
     const Drives& drives;
+    const SerialPorts& ports;
+    ProcessStart& tools;
     std::function<void()> endProgram; ///< ends the event loop
 };
 
@@ -35,8 +41,11 @@ public:
 
 private:
     void RegisterViews();
+    void RegisterSetViews();
 
+    Platform platform_;
     FileSystem files_;
+    DiskFileOperations fileOperations_;
     RSComm link_;
     ViewLoopRunner loops_;
     frmMDIMain window_;
