@@ -25,7 +25,10 @@ frmMDIMain::frmMDIMain(const ShellContext& context)
     RefreshCommandState();
 }
 
-frmMDIMain::~frmMDIMain() = default;
+// Nobody may look at the views any more while their area goes.
+frmMDIMain::~frmMDIMain() {
+    delete children_;
+}
 
 void frmMDIMain::Load() {
     try {
