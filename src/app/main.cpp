@@ -1,9 +1,9 @@
 #include "app/Application.h"
 #include "base/ApplicationFolder.h"
+#include "base/Drives.h"
 #include "base/port/SerialMSComm.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
-#include "base/Drives.h"
 #include <QApplication>
 #include <QStandardPaths>
 
