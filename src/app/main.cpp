@@ -3,7 +3,7 @@
 #include "base/port/SerialMSComm.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
-#include "shell/Drives.h"
+#include "base/Drives.h"
 #include <QApplication>
 #include <QStandardPaths>
 

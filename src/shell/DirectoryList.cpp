@@ -71,8 +71,8 @@ void DirectoryList::Refresh() {
 
 QTreeWidgetItem* DirectoryList::AddFolder(QTreeWidgetItem* parent, const QString& path,
                                           const QString& name, bool open) {
-    static const QIcon openIcon = ShellIcon(QStringLiteral("FolderOpen"));
-    static const QIcon closedIcon = ShellIcon(QStringLiteral("Folder"));
+    static const QIcon openIcon = ListIcon(QStringLiteral("FolderOpen"));
+    static const QIcon closedIcon = ListIcon(QStringLiteral("Folder"));
     auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(this);
     item->setText(0, name);
     item->setIcon(0, open ? openIcon : closedIcon);

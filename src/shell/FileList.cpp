@@ -11,7 +11,7 @@ constexpr int rowIconSize = 16; // pixels at 100 per cent
 } // namespace
 
 QVariant FileListModel::data(const QModelIndex& index, int role) const {
-    static const QIcon icon = ShellIcon(QStringLiteral("TreeImage1"));
+    static const QIcon icon = ListIcon(QStringLiteral("TreeImage1"));
     return role == Qt::DecorationRole ? QVariant(icon) : QStringListModel::data(index, role);
 }
 

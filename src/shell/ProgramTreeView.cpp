@@ -46,7 +46,7 @@ void ProgramTreeView::ShowSet(const ProgramTree& set) {
 
 void ProgramTreeView::SetImage(QTreeWidgetItem& item, int number) {
     item.setData(0, imageRole, number);
-    item.setIcon(0, ShellIcon(QStringLiteral("TreeImage%1").arg(number)));
+    item.setIcon(0, ListIcon(QStringLiteral("TreeImage%1").arg(number)));
 }
 
 void ProgramTreeView::TakeKey(const QTreeWidgetItem* item) {

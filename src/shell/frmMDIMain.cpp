@@ -3,10 +3,10 @@
 #include "base/ApplicationFolder.h"
 #include "base/Dialogs.h"
 #include "base/DoEvents.h"
+#include "base/Drives.h"
 #include "base/RunTimeError.h"
 #include "link/RSComm.h"
 #include "session/Globals.h"
-#include "shell/Drives.h"
 #include "shell/frmMain.h"
 #include <QCloseEvent>
 #include <QDir>
@@ -57,7 +57,7 @@ void frmMDIMain::TakeGlobals() {
     gRSComm = &context_.link;
     gFSO = &context_.files;
     gCurrentFolder = QDir::currentPath();
-    gCurrentDrive = DriveOfPath(context_.drives.List(), gCurrentFolder);
+    gCurrentDrive = context_.drives.RootOf(gCurrentFolder);
 }
 
 void frmMDIMain::ReleaseGlobals() {

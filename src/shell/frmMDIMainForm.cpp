@@ -1,4 +1,4 @@
-#include "shell/Drives.h"
+#include "base/Drives.h"
 #include "shell/frmMain.h"
 #include "shell/frmMDIMain.h"
 #include "shell/Icons.h"

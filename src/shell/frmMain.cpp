@@ -2,6 +2,7 @@
 
 #include "base/ApplicationFolder.h"
 #include "base/Dialogs.h"
+#include "base/Drives.h"
 #include "base/FileSystem.h"
 #include "base/modUtility.h"
 #include "base/RunTimeError.h"
@@ -12,7 +13,6 @@
 #include "programset/SiblingBoxes.h"
 #include "session/Globals.h"
 #include "shell/DirectoryList.h"
-#include "shell/Drives.h"
 #include "shell/FileList.h"
 #include "shell/ProgramTreeView.h"
 #include <QApplication>
@@ -66,8 +66,10 @@ void frmMain::RefreshDirList() {
 }
 
 void frmMain::dirDirList_Change() {
+    const bool sameFolder = filFileList_->Path() == dirDirList_->Path();
     RefreshDirList();
-    filFileList_->Refresh();
+    if (sameFolder)
+        filFileList_->Refresh();
     trvHDNList_->clear();
     Q_EMIT SelectionChanged();
 }
@@ -83,10 +85,13 @@ void frmMain::RefreshFileList(const QString& path) {
     FillDrives();
     ShowDrive(gCurrentFolder);
     gCurrentDrive = drvDriveList_->currentData().toString();
-    dirDirList_->SetPath(gCurrentFolder);
-    dirDirList_->Refresh();
-    QDir::setCurrent(gCurrentFolder);
-    filFileList_->Refresh();
+    if (dirDirList_->Path() == gCurrentFolder) {
+        dirDirList_->Refresh();
+        filFileList_->Refresh();
+        QDir::setCurrent(gCurrentFolder);
+    } else {
+        dirDirList_->SetPath(gCurrentFolder);
+    }
     filFileList_->SelectFile(files_.GetFileName(path));
 }
 
@@ -106,13 +111,13 @@ bool frmMain::HasSelection() const {
 void frmMain::FillDrives() {
     const QString shown = drvDriveList_->currentData().toString();
     drvDriveList_->clear();
-    for (const QString& drive : drives_.List())
-        drvDriveList_->addItem(DriveLabel(drive), drive);
+    for (const QString& drive : drives_.Roots())
+        drvDriveList_->addItem(QDir::toNativeSeparators(drive), drive);
     drvDriveList_->setCurrentIndex(drvDriveList_->findData(shown));
 }
 
 void frmMain::ShowDrive(const QString& path) {
-    drvDriveList_->setCurrentIndex(drvDriveList_->findData(DriveOfPath(drives_.List(), path)));
+    drvDriveList_->setCurrentIndex(drvDriveList_->findData(drives_.RootOf(path)));
     rememberedDrive_ = drvDriveList_->currentIndex();
 }
 
@@ -120,7 +125,7 @@ void frmMain::drvDriveList_Change() {
     if (drvDriveList_->currentIndex() == rememberedDrive_)
         return;
     const QString drive = drvDriveList_->currentData().toString();
-    if (!drives_.IsReady(drive)) {
+    if (!drives_.At(drive).isReady) {
         dialogs_.MsgBox(QStringLiteral("Selected Drive is Not Ready."), MsgStyle::Information,
                         QStringLiteral("Drives"));
         drvDriveList_->setCurrentIndex(rememberedDrive_);

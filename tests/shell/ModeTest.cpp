@@ -76,6 +76,7 @@ TEST_F(Mode, TheTickSaysOnline) {
 TEST_F(Mode, ALineThatIsCutShowsCommFaultUntilTheUserGoesOnlineAgain) {
     Start();
     QTest::keyClick(&Window(), Qt::Key_F3);
+    Tick();
     port_.Lose();
     Tick(); // the poll finds the port gone
     Tick();
@@ -101,10 +102,33 @@ TEST_F(Mode, WithAnotherViewVisibleButTheBrowserActiveTheTickDoesNotPoll) {
     GoToSets();
     ClickSet("PUMP.hdn");
     EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmMain");
+    Tick(); // this one notices the change of the mode
     port_.ForgetSent();
     Tick();
     EXPECT_TRUE(port_.Sent().empty());
     Window().Children().Hide("frmStatusTable");
-    Tick();
+    Tick(); // nothing stands in the way any more
     EXPECT_FALSE(port_.Sent().empty());
+}
+
+TEST_F(Mode, FaultsGiveOneBoxInEachPeriodOnline) {
+    Start();
+    SetFaultCode(5);
+    QTest::keyClick(&Window(), Qt::Key_F3);
+    dialogs_.ExpectBox("Faults Active in Target Board", MsgStyle::Critical, "Quentor",
+                       MsgAnswer::Ok);
+    Tick();
+    EXPECT_TRUE(Panel(1).startsWith("System Message:  Fault Code (05H): "))
+        << Panel(1).toStdString();
+    SetFaultCode(0);
+    Tick();
+    EXPECT_EQ(Panel(1).toStdString(), "System Message:  Quentor is Currently ON-LINE");
+    SetFaultCode(6);
+    Tick(); // no second box
+    QTest::keyClick(&Window(), Qt::Key_F4);
+    Tick();
+    QTest::keyClick(&Window(), Qt::Key_F3);
+    dialogs_.ExpectBox("Faults Active in Target Board", MsgStyle::Critical, "Quentor",
+                       MsgAnswer::Ok);
+    Tick();
 }

@@ -66,7 +66,7 @@ TEST_F(ShutDown, AListThatCannotBeSavedDoesNotKeepTheProgram) {
 
 TEST_F(ShutDown, TheWindowStaysWhileTheLinkIsAtWork) {
     QTest::keyClick(&Window(), Qt::Key_F3);
-    port_.AnswerLikeBoard(false);
+    line_.Faults().SetSilence(true);
     bool closed = true;
     dialogs_.ExpectBox("Cannot Communicate with Target Board.\r"
                        "Verify RS-232 Cable is Connected Between\r"

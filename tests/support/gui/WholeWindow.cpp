@@ -32,13 +32,29 @@ QString WriteFile(const QString& path, const QByteArray& content) {
 }
 } // namespace
 
+QString ScriptedDrives::RootOf(const QString& path) const {
+    QString longest;
+    for (const QString& root : roots) {
+        if (path.startsWith(root) && root.size() > longest.size())
+            longest = root;
+    }
+    return longest;
+}
+
+Drive ScriptedDrives::At(const QString& root) const {
+    Drive drive;
+    drive.root = root;
+    drive.letter = root;
+    drive.isReady = !notReady.contains(root);
+    return drive;
+}
+
 WholeWindow::WholeWindow() : startDirectory_(QDir::currentPath()) {
     ForgetGlobals();
     const QDir root(root_.path());
     root.mkpath(QStringLiteral("app/support"));
     root.mkpath(QStringLiteral("sets"));
     folder_ = std::make_unique<ApplicationFolder>(root.filePath(QStringLiteral("app")));
-    port_.AnswerLikeBoard(true);
     WriteSetFile(QStringLiteral("PUMP.hdn"), "D\r\n");
     WriteSetFile(QStringLiteral("PUMP.lmn"), "ladder\r\n");
     WriteSetFile(QStringLiteral("PUMP.HEX"), "hex");
@@ -71,9 +87,9 @@ void WholeWindow::Tick() {
     QCoreApplication::sendEvent(timer, &event);
 }
 
-void WholeWindow::AnswerRead(int highAddress, int data) {
-    constexpr int acknowledge = 0x55;
-    port_.Replies({acknowledge, acknowledge, highAddress, data});
+void WholeWindow::SetFaultCode(int code) {
+    constexpr std::uint16_t faultRegister = 8176;
+    board_.Poke(faultRegister, static_cast<std::uint8_t>(code));
 }
 
 QAction* WholeWindow::Entry(const QString& name) {
@@ -99,6 +115,11 @@ QByteArrayList WholeWindow::RecentListOnDisk() const {
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return file.readAll().split('\n');
+}
+
+void WholeWindow::ForbidReading(const QString& path) {
+    QFile::setPermissions(root_.path(), QFile::Permissions::fromInt(0x7755));
+    QFile::setPermissions(path, {});
 }
 
 QString WholeWindow::AppPath(const QString& relative) const {

@@ -2,9 +2,11 @@
 
 #include "app/Application.h"
 #include "base/ApplicationFolder.h"
-#include "shell/Drives.h"
+#include "base/Drives.h"
+#include "board/Line.h"
+#include "board/SimulatedBoard.h"
+#include "support/gui/WatchedPort.h"
 #include "support/ScriptedDialogs.h"
-#include "support/ScriptedPort.h"
 #include "support/VirtualClock.h"
 #include <gtest/gtest.h>
 #include <memory>
@@ -17,16 +19,17 @@ class QModelIndex;
 /// Drives that a test decides on.
 class ScriptedDrives final : public Drives {
 public:
-    QStringList List() const override { return roots; }
-    bool IsReady(const QString& drive) const override { return !notReady.contains(drive); }
+    QStringList Roots() const override { return roots; }
+    QString RootOf(const QString& path) const override;
+    Drive At(const QString& root) const override;
 
     QStringList roots = {QStringLiteral("/")};
     QSet<QString> notReady;
 };
 
 /// The whole program on doubles: a temporary application folder with a support folder, a folder of
-/// sample program sets, a scripted port and prompts, virtual time. No tick comes by itself within
-/// the half second that a test may take; Tick() gives one.
+/// sample program sets, the simulated board on the line, scripted prompts, virtual time. No tick
+/// comes by itself within the half second that a test may take; Tick() gives one.
 class WholeWindow : public testing::Test {
 protected:
     WholeWindow();
@@ -42,12 +45,8 @@ protected:
     /// One tick of tmrBackgroungUpdate, as though its time had come.
     void Tick();
 
-    /// Lets the board answer the handshake and one read of a byte of page `highAddress` next.
-    void AnswerRead(int highAddress, int data);
-    /// The same for the read of the fault register.
-    void AnswerFaultRead(int code) { AnswerRead(faultRegisterPage, code); }
-    /// High byte of the address of the fault register.
-    static constexpr int faultRegisterPage = 0xF0;
+    /// Puts a code into the board's fault register.
+    void SetFaultCode(int code);
 
     /// The child of the main window of this object name; fails the test if there is none.
     template <typename T>
@@ -65,6 +64,8 @@ protected:
     /// Writes HD2000.dat with these lines.
     void WriteRecentList(const QByteArrayList& lines);
     QByteArrayList RecentListOnDisk() const;
+    /// Lets every user into the temporary folder, and nobody read this file.
+    void ForbidReading(const QString& path);
     QString AppPath(const QString& relative) const;
     QString SetPath(const QString& name) const;
 
@@ -80,7 +81,9 @@ protected:
     QTemporaryDir root_;
     VirtualClock clock_;
     ScriptedDialogs dialogs_;
-    ScriptedPort port_{clock_};
+    haldenboard::SimulatedBoard board_;
+    haldenboard::Line line_{board_};
+    WatchedPort port_{clock_, line_};
     NoBusyDisplay busy_;
     ScriptedDrives drives_;
     std::unique_ptr<ApplicationFolder> folder_;
