@@ -1,3 +1,4 @@
+#include "bench/DataTransferBench.h"
 #include "bench/DumpRow.h"
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
@@ -8,7 +9,7 @@
 #include <cstdlib>
 #include <exception>
 #include <functional>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QStringList>
 #include <thread>
@@ -28,6 +29,7 @@ std::vector<Measurement> Measurements() {
     return {{QStringLiteral("exchanges"), [] { return std::vector{bench::MeasureExchanges()}; }},
             {QStringLiteral("reads"), [board] { return bench::MeasurePacedReads(board); }},
             {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
+            {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
             {QStringLiteral("start"),
              [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
 }
@@ -53,7 +55,9 @@ void PrintMachine() {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // the busy view is measured without a screen too
+    const QApplication application(argc, argv);
     try {
         PrintMachine();
         const auto rows = Measure(application.arguments().mid(1));

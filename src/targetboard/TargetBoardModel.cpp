@@ -28,7 +28,6 @@ void TargetBoardModel::Open(const QString& HdnFile) {
 void TargetBoardModel::Start() {
     firstPass_.Drop();
     pollIndex_ = setupEntryCount;
-    editing_.fill(false);
     onlineShown_ = false;
     offlineShown_ = false;
     shownSecond_ = -1;
@@ -118,7 +117,7 @@ ViewLoop::Step TargetBoardModel::PollStep() {
         pollIndex_ = setupEntryCount;
         return ViewLoop::Step::Worked;
     }
-    if (shown_.controls.ShowsValue(index) && !IsEditing(index))
+    if (shown_.controls.ShowsValue(index) && !shown_.editing[Index(index)])
         shown_.txtSetup[Index(index)] = LastTwoCharacters(value);
     return pollIndex_ < setupEntryCount ? ViewLoop::Step::Worked : ViewLoop::Step::Rest;
 }
@@ -169,21 +168,21 @@ void TargetBoardModel::WriteInOrder(const std::array<BoardWrite, 3>& writes) {
 }
 
 void TargetBoardModel::SetupEntered(int index) {
-    editing_[Index(index)] = true;
+    shown_.editing[Index(index)] = true;
 }
 
 void TargetBoardModel::SetupAccepted(int index, const QString& text) {
     WriteSetup(index, text);
-    editing_[Index(index)] = false;
+    shown_.editing[Index(index)] = false;
 }
 
 void TargetBoardModel::SetupStepped(int index, const QString& text) {
-    editing_[Index(index)] = false;
+    shown_.editing[Index(index)] = false;
     WriteSetup(index, text);
 }
 
 void TargetBoardModel::SetupAbandoned(int index) {
-    editing_[Index(index)] = false;
+    shown_.editing[Index(index)] = false;
 }
 
 void TargetBoardModel::WriteSetup(int index, const QString& text) {

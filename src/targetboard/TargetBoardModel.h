@@ -52,7 +52,6 @@ public:
     void SetupStepped(int index, const QString& text);
     /// The entry was left without taking what was typed.
     void SetupAbandoned(int index);
-    bool IsEditing(int index) const { return editing_[static_cast<std::size_t>(index)]; }
 
 private:
     ViewLoop::Step TurnOfLoop();
@@ -72,7 +71,6 @@ private:
     Dialogs& dialogs_;
     TargetBoardShown shown_;
     FirstPass firstPass_;
-    std::array<bool, setupEntryCount> editing_{};
     bool running_ = false;
     bool opening_ = false;
     bool onlineShown_ = false;

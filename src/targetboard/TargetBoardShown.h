@@ -13,7 +13,8 @@ struct TargetBoardShown {
     std::array<QString, FaultPosition::Count> txtTargetBoard; ///< that of the slot stays empty
     IdentInPLC lblRevIdentInPLC;
     std::array<QString, IdentLabel::OnDiskCount> lblRevIdentOnDisk;
-    std::array<QString, setupEntryCount> txtSetup; ///< not while the entry is being edited
+    std::array<QString, setupEntryCount> txtSetup;
+    std::array<bool, setupEntryCount> editing{}; ///< the user is in the entry: its text is his
     QString lblCurrTime;
     QString lblCurrDate;
     ControlTable controls;

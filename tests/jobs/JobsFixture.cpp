@@ -18,6 +18,13 @@ JobsFixture::~JobsFixture() {
     gHdnFile.clear();
 }
 
+void JobsFixture::ConnectTo(MSComm& other) {
+    port.Reply(0x55);
+    link.CloseRSComm();
+    link.OpenRSComm(other);
+    EXPECT_TRUE(link.OnlineMode());
+}
+
 void JobsFixture::BoardTakes(const std::vector<BoardByte>& bytes) {
     AcceptHandshake();
     for (const BoardByte& byte : bytes)

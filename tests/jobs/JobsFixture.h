@@ -23,6 +23,8 @@ protected:
 
     QString PathOf(const QString& name) const { return directory.filePath(name); }
 
+    /// Takes the link from the scripted port to another one.
+    void ConnectTo(MSComm& other);
     /// The board takes a handshake and then these bytes, each echoed.
     void BoardTakes(const std::vector<BoardByte>& bytes);
     /// The board takes a handshake and then gives these bytes.

@@ -2,6 +2,7 @@
 
 #include "controls/grid/GridDelegate.h"
 #include "controls/grid/GridFormat.h"
+#include "controls/grid/GridHeader.h"
 #include <algorithm>
 #include <numeric>
 #include <QGuiApplication>
@@ -19,6 +20,7 @@ constexpr int mostMovesOn = 4;
 Grid::Grid(int fixedRows, QWidget* parent)
     : QTableView(parent), model_(new GridModel(fixedRows, this)),
       delegate_(new GridDelegate(this)) {
+    setHorizontalHeader(new GridHeader(this));
     setModel(model_);
     setItemDelegate(delegate_);
     setEditTriggers(NoEditTriggers);
@@ -242,5 +244,6 @@ void Grid::changeEvent(QEvent* event) {
 
 void Grid::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
+    Q_EMIT Resized();
     Q_EMIT Scrolled();
 }

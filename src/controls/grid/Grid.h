@@ -77,6 +77,8 @@ Q_SIGNALS:
     void EnterCell();
     /// A cell was clicked with the left button.
     void Click();
+    /// The width to share may be another one now.
+    void Resized();
     /// The rows that can be seen may be others now.
     void Scrolled();
 

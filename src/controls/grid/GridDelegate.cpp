@@ -30,6 +30,7 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
     option->textElideMode = Qt::ElideRight;
     if (index == typed_) {
         option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+        option->backgroundBrush = option->palette.brush(QPalette::Base);
         return;
     }
     if (index.data(GridModel::ChangedRole).toBool()) {

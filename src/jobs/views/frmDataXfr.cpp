@@ -15,7 +15,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopedValueRollback>
 
 namespace {
 constexpr int standardOption = 0;
@@ -151,7 +150,7 @@ bool frmDataXfr::eventFilter(QObject* watched, QEvent* event) {
 
 // No box is shown in the middle of a change of the focus: the entry is looked at right after it.
 void frmDataXfr::txtRange_LostFocus(int index) {
-    if (returningFocus_ || Choice() != RangeChoice::Range)
+    if (Choice() != RangeChoice::Range)
         return;
     leftEntry_ = index;
     QMetaObject::invokeMethod(this, &frmDataXfr::CheckLeftEntry, Qt::QueuedConnection);
@@ -160,7 +159,6 @@ void frmDataXfr::txtRange_LostFocus(int index) {
 void frmDataXfr::CheckLeftEntry() {
     if (isVisible() && leftEntry_ && Choice() == RangeChoice::Range)
         AcceptEntry(*leftEntry_);
-    leftEntry_.reset();
 }
 
 bool frmDataXfr::AcceptEntry(int index) {
@@ -173,8 +171,8 @@ bool frmDataXfr::AcceptEntry(int index) {
     dialogs_.MsgBox(refusal->message, MsgStyle::Plain, QStringLiteral("Entry Error"));
     if (refusal->resetEntry)
         updRange_.at(*refusal->resetEntry)->SetValue(refusal->resetValue);
-    const QScopedValueRollback<bool> returning(returningFocus_, true);
     txtRange_.at(index)->setFocus();
+    leftEntry_.reset(); // the other entry may have lost the focus to this one: nobody left it
     return false;
 }
 

@@ -57,5 +57,4 @@ private:
     QPushButton* cmdCancel_ = nullptr;
 
     std::optional<int> leftEntry_; // an entry that was left and not looked at yet
-    bool returningFocus_ = false;
 };

@@ -18,13 +18,14 @@ struct WaitJobFace;
 /// The modal busy view of one job: message, progress bar, the time that has passed and about how
 /// much remains, Cancel. It is loaded for one job and dies after it.
 ///
-/// What a job tells is put on the screen by a timer, 25 times a second at the most, however fast
-/// the job goes on. A click on Cancel is taken at the job's next yield.
+/// What a job tells is put on the screen by a timer, ten times a second, however fast the job goes
+/// on: painting takes time from the line, and nobody reads faster. A click on Cancel is taken at
+/// the job's next yield.
 class frmWaitDisplay final : public QDialog, private JobProgress {
     Q_OBJECT
 public:
     /// Milliseconds between repaints.
-    static constexpr int repaintInterval = 40;
+    static constexpr int repaintInterval = 100;
 
     /// Loads the view with the face of the job of this code. `backgroundUpdate` is the timer of
     /// the background update, which stands still while the job runs; `clock` times the job. All

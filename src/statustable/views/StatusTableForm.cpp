@@ -39,8 +39,8 @@ StatusTableForm::StatusTableForm(QWidget& view)
       fgStatus(new Grid(firstDataRow, &view)), lblPaste(Make<QLabel>(view, "lblPaste", QString())),
       cmdNewTable(Make<QPushButton>(view, "cmdNewTable", QStringLiteral("Ne&w"))),
       cmdOpenTable(Make<QPushButton>(view, "cmdOpenTable", QStringLiteral("&Open..."))),
-      cmdSaveTable(Make<QPushButton>(view, "cmdSaveTable", QStringLiteral("Sa&ve"))),
-      cmdSaveTableAs(Make<QPushButton>(view, "cmdSaveTableAs", QStringLiteral("Save &As..."))),
+      cmdSaveTable(Make<QPushButton>(view, "cmdSaveTable", QStringLiteral("S&ave"))),
+      cmdSaveTableAs(Make<QPushButton>(view, "cmdSaveTableAs", QStringLiteral("Save As..."))),
       chkAutoIncrement(
           Make<QCheckBox>(view, "chkAutoIncrement", QStringLiteral("Auto &Increment"))),
       cmdDefault(Make<QPushButton>(view, "cmdDefault", QString())) {

@@ -63,6 +63,7 @@ void frmStatusTable::Connect() {
     connect(&editor_, &TableEditor::TableEdited, this, &frmStatusTable::ShowChanged);
     connect(&editor_, &TableEditor::GridLeft, this, [this] { form_.cmdDefault->setFocus(); });
     connect(&editor_, &TableEditor::PasteEnded, this, &frmStatusTable::ShowPasteOutcome);
+    connect(form_.fgStatus, &Grid::Resized, this, &frmStatusTable::SizeGrid);
     connect(form_.fgStatus, &Grid::Scrolled, this, [this] { seams_.loops.Wake(); });
     connect(form_.fgStatus, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         seams_.host.PopUpTableMenu(form_.fgStatus->viewport()->mapToGlobal(at));
@@ -105,11 +106,6 @@ void frmStatusTable::Unload() {
 void frmStatusTable::closeEvent(QCloseEvent* event) {
     Unload();
     event->accept();
-}
-
-void frmStatusTable::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    SizeGrid();
 }
 
 void frmStatusTable::FocusGrid() {

@@ -53,20 +53,25 @@ protected:
     T* Part(const char* name) const {
         return view->findChild<T*>(QString::fromLatin1(name));
     }
+    // What a handler has put off may put off more.
+    static void Settle() {
+        for (int turn = 0; turn < 4; ++turn)
+            QApplication::processEvents();
+    }
     void Click(const char* name) const {
         QTest::mouseClick(Part<QWidget>(name), Qt::LeftButton);
-        QApplication::processEvents();
+        Settle();
     }
     void ChooseRange() const {
         // The hit area of an option is its mark and text, not the whole row.
         auto* option = Part<QRadioButton>("optRange(1)");
         QTest::mouseClick(option, Qt::LeftButton, Qt::NoModifier, QPoint(8, option->height() / 2));
-        QApplication::processEvents();
+        Settle();
     }
     void ChooseStandard() const {
         auto* option = Part<QRadioButton>("optRange(0)");
         QTest::mouseClick(option, Qt::LeftButton, Qt::NoModifier, QPoint(8, option->height() / 2));
-        QApplication::processEvents();
+        Settle();
     }
     // Types over what stands in the entry; the entry takes the focus first.
     void Type(const char* name, const char* text) const {
@@ -78,7 +83,7 @@ protected:
     }
     void PressReturn() const {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QApplication::processEvents();
+        Settle();
     }
     QString Text(const char* name) const { return Part<QLineEdit>(name)->text(); }
     QString Focus() const {

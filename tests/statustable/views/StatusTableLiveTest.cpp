@@ -197,6 +197,26 @@ TEST_F(StatusTableLive, ATypedAddressIsReadAtOnce) {
     EXPECT_EQ(table->Cell(2, 2), QString("44"));
 }
 
+TEST_F(StatusTableLive, ARowThatIsRemovedEndsThePassAndTheNextBeginsAnew) {
+    Online(49, {"B100", "B101", "B102"});
+    Poke(102, 7);
+    Grid& grid = table->view->StatusGrid();
+    grid.SetCell(2, 0);
+    table->Press(Qt::Key_End, Qt::ShiftModifier);
+    table->Press(Qt::Key_Delete);
+    table->RunPasses();
+    EXPECT_EQ(Row(3), (QStringList{"B102", "7", "7", "", "00000111"}));
+}
+
+TEST_F(StatusTableLive, TheColumnsTakeTheWholeWidth) {
+    Online(49, {});
+    const Grid& grid = table->view->StatusGrid();
+    int sum = 0;
+    for (int col = 0; col < 6; ++col)
+        sum += grid.columnWidth(col);
+    EXPECT_NEAR(sum, grid.viewport()->width(), 6);
+}
+
 TEST_F(StatusTableLive, HiddenItReadsNothing) {
     Online(49, {"B100"});
     table->view->hide();

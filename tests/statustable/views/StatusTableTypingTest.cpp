@@ -161,6 +161,15 @@ TEST_F(StatusTableTyping, AutoIncrementEndsWhereTheBoardEnds) {
     EXPECT_EQ(table.Column1().mid(0, 4), (QStringList{"B254", "B255", "", ""}));
 }
 
+TEST_F(StatusTableTyping, AnAddressThatWasFilledInIsCheckedWhenItsRowIsLeft) {
+    table.Find<QCheckBox>("chkAutoIncrement").setChecked(true);
+    table.Type("B255");
+    table.Press(Qt::Key_Return);
+    EXPECT_EQ(table.Cell(3, 1), QString("B256"));
+    table.Press(Qt::Key_Down);
+    EXPECT_EQ(table.Cell(3, 1), QString());
+}
+
 TEST_F(StatusTableTyping, AnAddressTakenAwayEmptiesItsRow) {
     table.Fill({"B100"});
     grid().SetTextMatrix(2, 2, "5");

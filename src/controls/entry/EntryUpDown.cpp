@@ -1,0 +1,49 @@
+#include "controls/entry/EntryUpDown.h"
+
+#include <QLineEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int arrowsWidth = 20; // pixels before scaling: the narrowest that is still easily hit
+}
+
+EntryUpDown::EntryUpDown(QLineEdit& buddy, QWidget* parent) : QWidget(parent), buddy_(buddy) {
+    auto* arrows = new QVBoxLayout(this);
+    arrows->setContentsMargins(0, 0, 0, 0);
+    arrows->setSpacing(0);
+    arrows->addWidget(AddArrow(Qt::UpArrow, 1, QStringLiteral("up")));
+    arrows->addWidget(AddArrow(Qt::DownArrow, -1, QStringLiteral("down")));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QToolButton* EntryUpDown::AddArrow(Qt::ArrowType type, int difference, const QString& name) {
+    auto* arrow = new QToolButton(this);
+    arrow->setObjectName(name);
+    arrow->setAccessibleName(difference > 0 ? tr("One more") : tr("One less"));
+    arrow->setArrowType(type);
+    arrow->setAutoRepeat(true);
+    arrow->setFocusPolicy(Qt::NoFocus);
+    arrow->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    connect(arrow, &QToolButton::clicked, this, [this, difference] { Step(difference); });
+    return arrow;
+}
+
+QSize EntryUpDown::sizeHint() const {
+    return {arrowsWidth, buddy_.sizeHint().height()};
+}
+
+void EntryUpDown::SetValue(int value) {
+    value_ = EntryRules::Stepped(QString::number(value), value, 0, range_);
+    buddy_.setText(QString::number(value_));
+}
+
+void EntryUpDown::Step(int difference) {
+    const QString before = buddy_.text();
+    value_ = EntryRules::Stepped(before, value_, difference, range_);
+    bool wasNumber = false;
+    if (before.toInt(&wasNumber) == value_ && wasNumber)
+        return; // at the end of the range already
+    buddy_.setText(QString::number(value_));
+    Q_EMIT Changed(value_);
+}

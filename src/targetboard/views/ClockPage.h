@@ -1,0 +1,38 @@
+#pragma once
+
+#include "targetboard/views/SetupControls.h"
+#include <QFrame>
+#include <vector>
+
+class QGroupBox;
+class QPushButton;
+
+/// The page of the real time clock, fraTargetBoard(3).
+class ClockPage final : public QFrame {
+public:
+    explicit ClockPage(NumericEntries& entries, QWidget* parent = nullptr);
+
+    void Show(const TargetBoardShown& shown);
+    QPushButton* cmdSetToCurrTime() const { return cmdSetToCurrTime_; }
+    QPushButton* cmdSetToCurrDate() const { return cmdSetToCurrDate_; }
+
+private:
+    // One half of the page: the clock of the board above, that of the computer below.
+    struct Half {
+        QLabel* boardLabel;
+        QLabel* computerLabel;
+        QPushButton* button;
+        int firstEntry;
+        QString computerCaption;
+    };
+    QWidget* MakeHalf(const Half& half, NumericEntries& entries);
+    QWidget* MakeNotes();
+
+    std::vector<SetupControls> parts_;
+    QLabel* lblTargetBoardTime_;
+    QLabel* lblTargetBoardDate_;
+    QLabel* lblCurrTime_;
+    QLabel* lblCurrDate_;
+    QPushButton* cmdSetToCurrTime_;
+    QPushButton* cmdSetToCurrDate_;
+};

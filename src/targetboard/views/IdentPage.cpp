@@ -1,0 +1,49 @@
+#include "targetboard/views/IdentPage.h"
+
+#include "targetboard/TargetBoardShown.h"
+#include "targetboard/views/PageParts.h"
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+constexpr std::array<const char*, IdentLabel::OnDiskCount> captions{
+    "Name:", "Revision:", "Checksum:", "Target Board:", "Rev Date:"};
+} // namespace
+
+IdentPage::IdentPage(QWidget* parent) : QFrame(parent) {
+    setObjectName(IndexedName("fraTargetBoard", 1));
+    auto* form = new QVBoxLayout(this);
+    form->addWidget(
+        IdentFrame(QStringLiteral("In Target Board:"), "lblRevIdentInPLC", lblRevIdentInPLC_));
+    form->addWidget(
+        IdentFrame(QStringLiteral("On Disk:"), "lblRevIdentOnDisk", lblRevIdentOnDisk_));
+    form->addStretch();
+}
+
+template <std::size_t count>
+QGroupBox* IdentPage::IdentFrame(const QString& title, const char* name,
+                                 std::array<QLabel*, count>& labels) {
+    auto* frame = new QGroupBox(title);
+    auto* grid = new QGridLayout(frame);
+    grid->setColumnStretch(1, 1);
+    for (std::size_t i = 0; i < count; ++i) {
+        const int row = static_cast<int>(i);
+        grid->addWidget(new QLabel(QLatin1String(captions[i])), row, 0);
+        labels[i] = PlainLabel(IndexedName(name, row));
+        labels[i]->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        labels[i]->setAccessibleName(title + u' ' + QLatin1String(captions[i]));
+        grid->addWidget(labels[i], row, 1);
+    }
+    return frame;
+}
+
+void IdentPage::Show(const TargetBoardShown& shown) {
+    for (std::size_t i = 0; i < lblRevIdentInPLC_.size(); ++i) {
+        lblRevIdentInPLC_[i]->setText(shown.lblRevIdentInPLC[i]);
+        lblRevIdentInPLC_[i]->setEnabled(shown.controls.lblRevIdentInPLC());
+    }
+    for (std::size_t i = 0; i < lblRevIdentOnDisk_.size(); ++i)
+        lblRevIdentOnDisk_[i]->setText(shown.lblRevIdentOnDisk[i]);
+}

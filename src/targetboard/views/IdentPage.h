@@ -1,0 +1,25 @@
+#pragma once
+
+#include "targetboard/ProgramIdent.h"
+#include <array>
+#include <QFrame>
+
+class QGroupBox;
+class QLabel;
+struct TargetBoardShown;
+
+/// The page of the program ident in the board and on disk, fraTargetBoard(1).
+class IdentPage final : public QFrame {
+public:
+    explicit IdentPage(QWidget* parent = nullptr);
+
+    void Show(const TargetBoardShown& shown);
+
+private:
+    template <std::size_t count>
+    static QGroupBox* IdentFrame(const QString& title, const char* name,
+                                 std::array<QLabel*, count>& labels);
+
+    std::array<QLabel*, IdentLabel::InPLCCount> lblRevIdentInPLC_{};
+    std::array<QLabel*, IdentLabel::OnDiskCount> lblRevIdentOnDisk_{};
+};
