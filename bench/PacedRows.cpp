@@ -3,6 +3,7 @@
 #include "bench/BareLoop.h"
 #include "bench/BenchLink.h"
 #include "bench/BoardProcess.h"
+#include "bench/Median.h"
 #include <algorithm>
 #include <cstdint>
 #include <functional>
@@ -43,10 +44,8 @@ double RateOfSlice(const Clock& clock, const std::function<void()>& read) {
     return reads / seconds;
 }
 
-Row RowOf(Reader& reader) {
-    const auto middle = reader.rates.begin() + slices / 2;
-    std::nth_element(reader.rates.begin(), middle, reader.rates.end());
-    return RowOfRates(reader.name, *middle, 1 / (reader.byteTimes * byteTime), goal);
+Row RowOf(const Reader& reader) {
+    return RowOfRates(reader.name, Median(reader.rates), 1 / (reader.byteTimes * byteTime), goal);
 }
 } // namespace
 

@@ -3,13 +3,17 @@
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
 #include "bench/Row.h"
+#include "bench/StartRows.h"
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <functional>
 #include <QApplication>
 #include <QDir>
+#include <QStringList>
 #include <thread>
+#include <utility>
 
 namespace {
 // The programs stand beside this one.
@@ -17,16 +21,29 @@ QString Beside(const QString& program) {
     return QDir(QCoreApplication::applicationDirPath()).filePath(program);
 }
 
-std::vector<bench::Row> MeasureAll() {
+// The measurements by name, in the order in which they run.
+using Measurement = std::pair<QString, std::function<std::vector<bench::Row>()>>;
+
+std::vector<Measurement> Measurements() {
     const QString board = Beside(QStringLiteral("halden-board"));
-    std::vector<bench::Row> rows{bench::MeasureExchanges()};
-    for (const bench::Row& row : bench::MeasurePacedReads(board))
-        rows.push_back(row);
-    rows.push_back(bench::MeasureDump(board));
-    for (const bench::Row& row : bench::MeasureDataTransfers(board))
-        rows.push_back(row);
+    return {{QStringLiteral("exchanges"), [] { return std::vector{bench::MeasureExchanges()}; }},
+            {QStringLiteral("reads"), [board] { return bench::MeasurePacedReads(board); }},
+            {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
+            {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
+            {QStringLiteral("start"),
+             [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
+}
+
+// Runs those that are named, or all.
+std::vector<bench::Row> Measure(const QStringList& names) {
+    std::vector<bench::Row> rows;
+    for (const auto& [name, measure] : Measurements())
+        if (names.isEmpty() || names.contains(name))
+            for (const bench::Row& row : measure())
+                rows.push_back(row);
     return rows;
 }
+
 // Bytes are paced by time-outs and handed over by threads that must get a processor in time: what
 // else runs on the machine shows in every figure.
 void PrintMachine() {
@@ -43,7 +60,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     try {
         PrintMachine();
-        const auto rows = MeasureAll();
+        const auto rows = Measure(application.arguments().mid(1));
         std::fputs(bench::TableText(rows).toLocal8Bit().constData(), stdout);
         return std::all_of(rows.begin(), rows.end(), bench::IsReached) ? EXIT_SUCCESS
                                                                        : EXIT_FAILURE;

@@ -118,9 +118,15 @@ public:
     void DownloadFile(const QString& HDN_FileName);
     /// Names a program set for UploadProgram. Never touches the line.
     void UploadFile(const QString& HDN_FileName);
-    /// Sends the image of the named set into the board and reports how it ended.
+    /// Sends the image of the named set into the board and reports how it ended. A set that cannot
+    /// be sent is refused before anything is written: the machine runs on, the link stays online.
+    /// After a halt on the way the link is offline and the board may stand in program mode until
+    /// it is opened again. ValidProgram is false after anything was written.
     void DumpProgram();
-    /// Reads the image out of the board into the named set and reports how it ended.
+    /// Reads the image out of the board into the named set and reports how it ended: the .REV file
+    /// first, then the .LCF file of a board with configuration bytes, the .HEX file last and whole.
+    /// From 0xFF00 up the image holds 00: the high byte of such an address is attention, so the
+    /// board cannot be asked for it.
     void UploadProgram();
     /// Address of the record in transfer: four hexadecimal digits and "H".
     const QString& CurrentProgramAdd() const { return currentProgramAdd_; }

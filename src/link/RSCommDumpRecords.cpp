@@ -1,3 +1,4 @@
+#include "base/Clock.h"
 #include "base/Dialogs.h"
 #include "base/DoEvents.h"
 #include "base/MSComm.h"

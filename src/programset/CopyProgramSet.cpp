@@ -13,13 +13,7 @@
 
 namespace {
 // One tighter than eight letters and ".hdn" need: the tools' users know the box that way.
-constexpr qsizetype lastPositionOfExtension = 8; // counted from 1, 0 without an extension
 constexpr qsizetype longestName = 11;
-
-bool LooksLong(const QString& destinationName) {
-    const qsizetype position = destinationName.toLower().indexOf(QLatin1String(".hdn")) + 1;
-    return position > lastPositionOfExtension || destinationName.size() > longestName;
-}
 
 bool IsSameFile(const QString& one, const QString& other) {
     return QFileInfo::exists(other) &&
@@ -46,7 +40,7 @@ bool CopyProgramSet::Begin(const Request& request) {
     }
     if (request.destinationName.isEmpty())
         return false;
-    if (LooksLong(request.destinationName))
+    if (request.destinationName.size() > longestName)
         TellShortNames(dialogs_, errorTitle);
 
     const QString destination =

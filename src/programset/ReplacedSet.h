@@ -4,6 +4,7 @@
 #include <QStringList>
 
 class FileOperations;
+class RunTimeError;
 
 /// The old set in the way of a new one. Its files step aside into a folder of their own beside
 /// it, so that until the new set stands they can all come back.
@@ -23,7 +24,7 @@ public:
     void Discard();
 
 private:
-    [[noreturn]] void RaiseWithPlace(const class RunTimeError& cause) const;
+    [[noreturn]] void RaiseWithPlace(const RunTimeError& cause) const;
 
     QString folder_;
     QString baseName_;

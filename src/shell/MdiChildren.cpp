@@ -11,6 +11,7 @@ constexpr int cascadeStep = 26; // pixels from one view to the next that opens
 
 MdiChildren::MdiChildren(QMdiArea& area) : QObject(&area), area_(area) {
     connect(&area_, &QMdiArea::subWindowActivated, this, &MdiChildren::Activated);
+    area_.viewport()->installEventFilter(this);
 }
 
 void MdiChildren::SetBrowser(frmMain& browser) {
@@ -95,8 +96,6 @@ ChildView* MdiChildren::Handlers(const QMdiSubWindow* frame) {
 
 // The area reports no active view while another window is in front: the last one stays.
 void MdiChildren::Activated(QMdiSubWindow* frame) {
-    if (browserFrame_)
-        browserFrame_->lower();
     if (!frame || frame == active_)
         return;
     if (ChildView* before = Handlers(active_))
@@ -117,16 +116,38 @@ void MdiChildren::ResizeAll() {
     }
 }
 
-// The browser cannot be closed, and when the active view is hidden the browser becomes active
-// unless the area finds another one.
+// The area brings every view that becomes active to the front: the browser goes back at once.
+void MdiChildren::KeepBrowserLowest() {
+    for (QObject* child : area_.viewport()->children()) { // the lowest is the first
+        if (qobject_cast<QMdiSubWindow*>(child)) {
+            if (child != browserFrame_)
+                browserFrame_->lower();
+            return;
+        }
+    }
+}
+
+// When the active view is hidden the one that was active before it takes its place.
+void MdiChildren::ActivateNext() {
+    const QList<QMdiSubWindow*> history = area_.subWindowList(QMdiArea::ActivationHistoryOrder);
+    for (auto frame = history.rbegin(); frame != history.rend(); ++frame) {
+        if (*frame != active_ && (*frame)->isVisible()) {
+            area_.setActiveSubWindow(*frame);
+            return;
+        }
+    }
+}
+
 bool MdiChildren::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area_.viewport() && event->type() == QEvent::Resize)
+        Q_EMIT AreaResized();
     if (watched == browserFrame_ && event->type() == QEvent::Close) {
-        event->ignore();
+        event->ignore(); // the browser stays
         return true;
     }
-    if (watched == active_ && event->type() == QEvent::Hide && watched != browserFrame_) {
-        if (browserFrame_ && area_.currentSubWindow() == active_)
-            area_.setActiveSubWindow(browserFrame_);
-    }
+    if (watched == browserFrame_ && event->type() == QEvent::ZOrderChange)
+        KeepBrowserLowest();
+    if (watched == active_ && watched != browserFrame_ && event->type() == QEvent::Hide)
+        ActivateNext();
     return QObject::eventFilter(watched, event);
 }

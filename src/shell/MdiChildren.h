@@ -46,6 +46,8 @@ public:
 Q_SIGNALS:
     /// Another view has become the active one.
     void ActiveChanged();
+    /// The client area of the main window has another size.
+    void AreaResized();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -55,6 +57,8 @@ private:
     void Add(const QString& name);
     void Place(QMdiSubWindow& frame) const;
     void Activated(QMdiSubWindow* frame);
+    void ActivateNext();
+    void KeepBrowserLowest();
     static ChildView* Handlers(const QMdiSubWindow* frame);
 
     QMdiArea& area_;

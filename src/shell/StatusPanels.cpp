@@ -80,13 +80,15 @@ void StatusPanel::paintEvent(QPaintEvent*) {
                           shown, foregroundRole());
 }
 
-StatusPanels::StatusPanels(QStatusBar& bar, Clock& clock) : QObject(&bar), clock_(clock) {
+StatusPanels::StatusPanels(QStatusBar& bar, Clock& clock)
+    : QObject(&bar), clock_(clock), nextMinute_(this) {
     bar.setObjectName(QStringLiteral("sbrMain"));
     for (int panel = systemMessage; panel <= time; ++panel)
         AddPanel(bar, panel,
                  QString::fromLatin1(panelTexts[static_cast<std::size_t>(panel - 1)].initialText));
     ShowMode(false);
     panels_[mode - 1]->setMinimumWidth(panels_[mode - 1]->sizeHint().width());
+    nextMinute_.setObjectName(QStringLiteral("nextMinute"));
     nextMinute_.setSingleShot(true);
     connect(&nextMinute_, &QTimer::timeout, this, &StatusPanels::ShowDateAndTime);
     ShowDateAndTime();

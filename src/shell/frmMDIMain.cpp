@@ -93,9 +93,8 @@ void frmMDIMain::closeEvent(QCloseEvent* event) {
     event->setAccepted(cancel == 0);
 }
 
-void frmMDIMain::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    if (browser_ && browser_->gFormLoaded)
+void frmMDIMain::MDIForm_Resize() {
+    if (browser_->gFormLoaded)
         children_->ResizeAll();
 }
 

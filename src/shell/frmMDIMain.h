@@ -64,7 +64,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -85,6 +84,7 @@ private:
     void filFileList_DblClick();
     void Toolbar1_ButtonClick(const ToolbarEntry& button);
     void sbrMain_PanelDblClick(int panel);
+    void MDIForm_Resize();
     void PopUpFileList(const QPoint& position);
     ShellSituation Situation() const;
 

@@ -50,6 +50,7 @@ void frmMDIMain::ConnectBrowser() {
     connect(browser_, &frmMain::DeleteRequested, this,
             [this] { surface_->Run(QStringLiteral("mnuFileListPopupDelete")); });
     connect(children_, &MdiChildren::ActiveChanged, this, &frmMDIMain::RefreshCommandState);
+    connect(children_, &MdiChildren::AreaResized, this, &frmMDIMain::MDIForm_Resize);
     connect(surface_, &CommandSurface::HandlersChanged, this, &frmMDIMain::RefreshCommandState);
     connect(panels_, &StatusPanels::PanelDoubleClicked, this, &frmMDIMain::sbrMain_PanelDblClick);
 }

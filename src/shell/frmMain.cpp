@@ -39,6 +39,8 @@ void frmMain::Form_Load() {
         gCurrentFile = path;
         gCurrentFolder = files_.GetParentFolderName(path);
         dirDirList_->SetPath(gCurrentFolder);
+    } else {
+        dirDirList_->SetPath(QDir::currentPath());
     }
     ShowDrive(dirDirList_->Path());
     filFileList_->SetPath(dirDirList_->Path());

@@ -23,6 +23,12 @@ TEST(ProgramSet, NameWithSeveralPointsBelongsToTheSetOfAllButItsLastPiece) {
     EXPECT_EQ(SetMembers(folder.Path(), u"pump.v2"_qs).size(), 1);
 }
 
+TEST(ProgramSet, HiddenFilesAreNobodysSiblings) {
+    SetFolder folder;
+    folder.Make(u".profile"_qs);
+    EXPECT_TRUE(SetMembers(folder.Path(), QString()).isEmpty());
+}
+
 TEST(ProgramSet, MembersOfALostFolderAreNone) {
     EXPECT_TRUE(SetMembers(u"/no/such/folder"_qs, u"pump"_qs).isEmpty());
 }

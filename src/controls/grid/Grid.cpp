@@ -60,17 +60,17 @@ void Grid::SetFormatString(const QString& format) {
     }
 }
 
-void Grid::AddItem(const QString& texts, int row) {
+void Grid::AddItem(const QString& texts, int row, int count) {
     const int keptRow = row_;
     const int keptCol = col_;
-    model_->InsertRow(row < 0 ? Rows() : row, texts.split(u'\t'));
+    model_->InsertRows(row < 0 ? Rows() : row, count, texts.split(u'\t'));
     MoveTo(keptRow, keptCol);
 }
 
-void Grid::RemoveItem(int row) {
+void Grid::RemoveItem(int row, int count) {
     const int keptRow = row_;
     const int keptCol = col_;
-    model_->RemoveRow(row);
+    model_->RemoveRows(row, count);
     MoveTo(keptRow, keptCol);
 }
 

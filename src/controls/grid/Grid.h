@@ -32,12 +32,12 @@ public:
     void SetTextMatrix(int row, int col, const QString& text) { model_->SetText(row, col, text); }
     /// Empties all cells, the heads too.
     void Clear() { model_->Clear(); }
-    /// Puts a row before row `row`; without one, behind the last. Cells are parted by tabs. The
-    /// current cell keeps its row number.
-    void AddItem(const QString& texts, int row = -1);
-    /// Removes a row that is not fixed. The current cell keeps its row number while there is such
-    /// a row.
-    void RemoveItem(int row);
+    /// Puts rows of the same texts before row `row`; without one, behind the last. Cells are parted
+    /// by tabs. The current cell keeps its row number.
+    void AddItem(const QString& texts, int row = -1, int count = 1);
+    /// Removes rows from `row` on; fixed rows stay. The current cell keeps its row number while
+    /// there is such a row.
+    void RemoveItem(int row, int count = 1);
 
     /// The current cell, where the selection began; -1 while there is none.
     int Row() const { return row_; }

@@ -59,22 +59,27 @@ void GridModel::SetText(int row, int col, const QString& text) {
     Changed(row, col);
 }
 
-void GridModel::InsertRow(int row, const QStringList& texts) {
+void GridModel::InsertRows(int row, int count, const QStringList& texts) {
+    if (count <= 0)
+        return;
     row = std::clamp(row, fixedRows_, Rows());
     ForgetGathered();
-    beginInsertRows(QModelIndex(), row - fixedRows_, row - fixedRows_);
+    const int first = row - fixedRows_;
+    beginInsertRows(QModelIndex(), first, first + count - 1);
     std::vector<QString> cells(texts.begin(), texts.end());
     cells.resize(cols_);
-    rows_.insert(rows_.begin() + row, std::move(cells));
+    rows_.insert(rows_.begin() + row, count, cells);
     endInsertRows();
 }
 
-void GridModel::RemoveRow(int row) {
-    if (row < fixedRows_ || row >= Rows())
+void GridModel::RemoveRows(int row, int count) {
+    count = std::min(count, Rows() - row);
+    if (row < fixedRows_ || count <= 0)
         return;
     ForgetGathered();
-    beginRemoveRows(QModelIndex(), row - fixedRows_, row - fixedRows_);
-    rows_.erase(rows_.begin() + row);
+    const int first = row - fixedRows_;
+    beginRemoveRows(QModelIndex(), first, first + count - 1);
+    rows_.erase(rows_.begin() + row, rows_.begin() + row + count);
     endRemoveRows();
 }
 

@@ -33,10 +33,10 @@ public:
     QString Text(int row, int col) const;
     /// Sets the text of a cell; nothing outside the grid, so that a row may be gone by now.
     void SetText(int row, int col, const QString& text);
-    /// Puts a row before row `row`, which is held within FixedRows and Rows.
-    void InsertRow(int row, const QStringList& texts);
-    /// Removes a row that is not fixed; nothing for any other.
-    void RemoveRow(int row);
+    /// Puts `count` rows of these texts before row `row`, which is held within FixedRows and Rows.
+    void InsertRows(int row, int count, const QStringList& texts);
+    /// Removes the rows from `row` on, as far as they exist and are not fixed.
+    void RemoveRows(int row, int count);
     /// Empties all cells.
     void Clear();
 

@@ -2,6 +2,7 @@
 
 #include "base/DoEvents.h"
 #include "base/ViewLoop.h"
+#include "controls/ViewHelpers.h"
 #include "link/RSComm.h"
 #include "link/TransferProgress.h"
 #include <QCloseEvent>
@@ -55,13 +56,14 @@ void frmDownloadProg::SetTransferMode(qint16 Mode) {
 void frmDownloadProg::showEvent(QShowEvent* event) {
     if (!loaded_)
         FormLoad();
-    QDialog::showEvent(event); // stands in the middle of the main window after this
+    QDialog::showEvent(event);
 }
 
 void frmDownloadProg::FormLoad() {
     loaded_ = true;
     setWindowTitle(mode_ == TransferMode::Upload ? tr("Program Upload") : tr("Program Download"));
     SetText(TransferTextAtStart(mode_));
+    CenterForm(*this);
     timer1_.stop();
     QMetaObject::invokeMethod(this, &frmDownloadProg::RunTransfer, Qt::QueuedConnection);
 }

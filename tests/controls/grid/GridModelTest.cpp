@@ -38,11 +38,11 @@ TEST_F(GridModelRows, FixedRowsAreTheHeads) {
 }
 
 TEST_F(GridModelRows, RowsComeAndGo) {
-    model.InsertRow(3, {"", "new"});
+    model.InsertRows(3, 1, {"", "new"});
     EXPECT_EQ(Column(), (QStringList{"row 2", "new", "row 3", "row 4", "row 5"}));
-    model.RemoveRow(2);
+    model.RemoveRows(2, 1);
     EXPECT_EQ(Column(), (QStringList{"new", "row 3", "row 4", "row 5"}));
-    model.InsertRow(99, {"", "last"});
+    model.InsertRows(99, 1, {"", "last"});
     EXPECT_EQ(Column().last(), QString("last"));
     model.SetRows(3);
     EXPECT_EQ(Column(), QStringList{"new"});
@@ -50,12 +50,23 @@ TEST_F(GridModelRows, RowsComeAndGo) {
     EXPECT_EQ(model.Rows(), 2);
 }
 
+TEST_F(GridModelRows, SeveralRowsComeAndGoAtOnce) {
+    model.InsertRows(4, 3, {"", "new"});
+    EXPECT_EQ(Column(), (QStringList{"row 2", "row 3", "new", "new", "new", "row 4", "row 5"}));
+    model.RemoveRows(4, 3);
+    EXPECT_EQ(Column(), (QStringList{"row 2", "row 3", "row 4", "row 5"}));
+    model.RemoveRows(4, 99);
+    EXPECT_EQ(Column(), (QStringList{"row 2", "row 3"}));
+    model.InsertRows(4, 0, {});
+    EXPECT_EQ(model.Rows(), 4);
+}
+
 TEST_F(GridModelRows, FixedRowsStay) {
-    model.RemoveRow(1);
-    model.RemoveRow(-1);
-    model.RemoveRow(6);
+    model.RemoveRows(1, 1);
+    model.RemoveRows(-1, 1);
+    model.RemoveRows(6, 1);
     EXPECT_EQ(model.Rows(), 6);
-    model.InsertRow(0, {"", "top"});
+    model.InsertRows(0, 1, {"", "top"});
     EXPECT_EQ(model.Text(2, 1), QString("top"));
 }
 
@@ -126,7 +137,7 @@ TEST_F(GridModelRows, AMarkGoesOutAgain) {
 
 TEST_F(GridModelRows, MarksEndWhenRowsComeOrGo) {
     model.MarkChanged(3, 1);
-    model.InsertRow(2, {});
+    model.InsertRows(2, 1, {});
     for (int row = 0; row < model.rowCount(); ++row)
         EXPECT_FALSE(model.index(row, 1).data(GridModel::ChangedRole).toBool());
 }

@@ -1,3 +1,4 @@
+#include "link/DumpPrompt.h"
 #include "link/programs/DumpFixture.h"
 #include <QDir>
 #include <QFile>
@@ -47,6 +48,21 @@ TEST_F(DumpRefusal, NoAndCancelSendNothingBeyondTheIdentReads) {
     for (int offset = 0; offset < 10; ++offset)
         ReadByte(identAddress + offset, 'X'); // still in read mode: no handshake
     ExpectQuestion("R6500(PLC)", {"XXXXXXXX", "88", "88"}, MsgAnswer::Cancel);
+    link.DumpProgram();
+    CheckUntouched(true);
+}
+
+TEST_F(DumpRefusal, MissingRevLeavesIdentRevisionAndChecksumUnknown) {
+    const QString hdn = WriteSet(QStringLiteral("A"), 'A', rev, "", QByteArray(44, '0') + "\r\n");
+    link.DownloadFile(hdn);
+    QFile::remove(Path(QStringLiteral("A.rev")));
+    dialogs.ExpectBoxTitled(QStringLiteral("Program Download"), MsgAnswer::Ok);
+    link.DownloadFile(hdn); // the configuration file decides alone: the set is valid
+    ASSERT_TRUE(link.ValidProgram());
+    ReadIdentBlock("OLD", 2, 1);
+    const ProgramIdent inBoard{QStringLiteral("OLD"), QStringLiteral("1"), QStringLiteral("2")};
+    dialogs.ExpectBox(DumpQuestion(ProgramIdent(), QStringLiteral("T7110"), inBoard), 35,
+                      QStringLiteral("Program Download - [Unknown]"), MsgAnswer::No);
     link.DumpProgram();
     CheckUntouched(true);
 }

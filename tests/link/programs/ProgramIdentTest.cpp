@@ -36,6 +36,12 @@ TEST(RevLineTest, EveryByteComesBackAsItWasWritten) {
     }
 }
 
+TEST(RevLineTest, NothingReadIsUnknown) {
+    EXPECT_EQ(ProgramIdent().ident, QStringLiteral("Unknown"));
+    EXPECT_EQ(ProgramIdent().checksum, QStringLiteral("Unknown"));
+    EXPECT_EQ(ProgramIdent().revision, QStringLiteral("Unknown"));
+}
+
 TEST(IdentBytesTest, IdentOfNineCharactersLosesTheNinth) {
     EXPECT_EQ(IdentBytes(QStringLiteral("CONVEYOR2")), QByteArray("CONVEYOR"));
 }

@@ -71,6 +71,11 @@ void WholeWindow::Tick() {
     QCoreApplication::sendEvent(timer, &event);
 }
 
+void WholeWindow::AnswerRead(int highAddress, int data) {
+    constexpr int acknowledge = 0x55;
+    port_.Replies({acknowledge, acknowledge, highAddress, data});
+}
+
 QAction* WholeWindow::Entry(const QString& name) {
     QAction* action = Window().Commands().Action(name);
     EXPECT_NE(action, nullptr) << name.toStdString();

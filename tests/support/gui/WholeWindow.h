@@ -42,6 +42,13 @@ protected:
     /// One tick of tmrBackgroungUpdate, as though its time had come.
     void Tick();
 
+    /// Lets the board answer the handshake and one read of a byte of page `highAddress` next.
+    void AnswerRead(int highAddress, int data);
+    /// The same for the read of the fault register.
+    void AnswerFaultRead(int code) { AnswerRead(faultRegisterPage, code); }
+    /// High byte of the address of the fault register.
+    static constexpr int faultRegisterPage = 0xF0;
+
     /// The child of the main window of this object name; fails the test if there is none.
     template <typename T>
     T* Find(const QString& name) {
