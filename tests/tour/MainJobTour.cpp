@@ -42,20 +42,28 @@ void PressButton(frmMDIMain& window, const char* key) {
         QTest::mouseClick(button, Qt::LeftButton);
 }
 
+// A key goes to the active window, which the last box has been until now.
+void PressF3(frmMDIMain& window) {
+    QApplication::setActiveWindow(&window);
+    QTest::keyClick(&window, Qt::Key_F3);
+}
+
 bool Always() {
     return true;
 }
 
 void AddOnline(TourGuide& guide, frmMDIMain& window) {
-    guide.Expect(QStringLiteral("panel 1"), [&window] { return PanelText(window, 1); },
-                 QStringLiteral("System Message:  Quentor is Currently OFF-LINE"));
+    guide.Expect(
+        QStringLiteral("panel 1"), [&window] { return PanelText(window, 1); },
+        QStringLiteral("System Message:  Quentor is Currently OFF-LINE"));
     guide.Picture(QStringLiteral("start"));
-    guide.Stop(QStringLiteral("press F3"), Always,
-               [&window] { QTest::keyClick(&window, Qt::Key_F3); });
-    guide.Expect(QStringLiteral("panel 2"), [&window] { return PanelText(window, 2); },
-                 QStringLiteral("ONLINE"));
-    guide.Expect(QStringLiteral("panel 1"), [&window] { return PanelText(window, 1); },
-                 QStringLiteral("System Message:  Quentor is Currently ON-LINE"));
+    guide.Stop(QStringLiteral("press F3"), Always, [&window] { PressF3(window); });
+    guide.Expect(
+        QStringLiteral("panel 2"), [&window] { return PanelText(window, 2); },
+        QStringLiteral("ONLINE"));
+    guide.Expect(
+        QStringLiteral("panel 1"), [&window] { return PanelText(window, 1); },
+        QStringLiteral("System Message:  Quentor is Currently ON-LINE"));
     guide.Picture(QStringLiteral("online"));
 }
 
@@ -64,8 +72,9 @@ void AddBrowse(TourGuide& guide, frmMDIMain& window) {
         if (auto* list = window.findChild<QListView*>(QStringLiteral("filFileList")))
             ClickRow(*list, QStringLiteral("PUMP1.hdn"));
     });
-    guide.Expect(QStringLiteral("the tree's root"), [&window] { return TreeRoot(window); },
-                 QStringLiteral("K2012 [PUMP1]"));
+    guide.Expect(
+        QStringLiteral("the tree's root"), [&window] { return TreeRoot(window); },
+        QStringLiteral("K2012 [PUMP1]"));
     guide.Picture(QStringLiteral("browse"));
 }
 
@@ -76,14 +85,16 @@ void AddDump(TourGuide& guide, frmMDIMain& window) {
     guide.AnswerBox(question, QStringLiteral("Yes"), QStringLiteral("question"));
     guide.Stop(
         QStringLiteral("the progress shows an address"),
-        [] { return ProgressText().startsWith(QLatin1String("Writing to Program Address: ")); }, [] {},
-        60.0);
+        [] { return ProgressText().startsWith(QLatin1String("Writing to Program Address: ")); },
+        [] {}, 60.0);
     guide.Picture(QStringLiteral("dump"));
     guide.Stop(
         QStringLiteral("the end of the dump is reported"),
-        [] { return QApplication::activeModalWidget() &&
-                    QApplication::activeModalWidget()->windowTitle() ==
-                        QLatin1String("Program Download"); },
+        [] {
+            return QApplication::activeModalWidget() &&
+                   QApplication::activeModalWidget()->windowTitle() ==
+                       QLatin1String("Program Download");
+        },
         [] {}, 120.0);
     guide.AnswerBox(QStringLiteral("Program Download"), QStringLiteral("OK"),
                     QStringLiteral("complete"));
@@ -91,11 +102,13 @@ void AddDump(TourGuide& guide, frmMDIMain& window) {
 
 // "PUMP1" and three zeros, as eight bytes.
 void AddIdentCheck(TourGuide& guide, frmMDIMain& window, BoardProcess& board) {
-    guide.Stop(QStringLiteral("the view has gone"),
-               [] { return QApplication::activeModalWidget() == nullptr; }, [] {});
-    guide.Expect(QStringLiteral("the board's ident"),
-                 [&board] { return board.Command(QStringLiteral("show 61424 8")); },
-                 QStringLiteral("61424: 80 85 77 80 49 0 0 0"));
+    guide.Stop(
+        QStringLiteral("the view has gone"),
+        [] { return QApplication::activeModalWidget() == nullptr; }, [] {});
+    guide.Expect(
+        QStringLiteral("the board's ident"),
+        [&board] { return board.Command(QStringLiteral("show 61424 8")); },
+        QStringLiteral("61424: 80 85 77 80 49 0 0 0"));
     guide.Stop(QStringLiteral("press the toolbar's download button again"), Always,
                [&window] { PressButton(window, "Program"); });
     guide.AnswerBox(QStringLiteral("Program Download - [PUMP1]"), QStringLiteral("No"),
@@ -107,19 +120,23 @@ void AddLineCut(TourGuide& guide, frmMDIMain& window, BoardProcess& board) {
                [&board] { board.Command(QStringLiteral("fault silence")); });
     guide.AnswerBox(QStringLiteral("WARNING - Communication Error!"), QStringLiteral("Cancel"),
                     QStringLiteral("line-cut"));
-    guide.Expect(QStringLiteral("panel 1"), [&window] { return PanelText(window, 1); },
-                 QStringLiteral("System Message:  Comm Fault with Target Board"));
-    guide.Expect(QStringLiteral("panel 2"), [&window] { return PanelText(window, 2); },
-                 QStringLiteral("OFFLINE"));
+    guide.Expect(
+        QStringLiteral("panel 1"), [&window] { return PanelText(window, 1); },
+        QStringLiteral("System Message:  Comm Fault with Target Board"));
+    guide.Expect(
+        QStringLiteral("panel 2"), [&window] { return PanelText(window, 2); },
+        QStringLiteral("OFFLINE"));
     guide.Picture(QStringLiteral("comm-fault"));
     guide.Stop(QStringLiteral("mend the line and press F3"), Always, [&window, &board] {
         board.Command(QStringLiteral("clear faults"));
-        QTest::keyClick(&window, Qt::Key_F3);
+        PressF3(window);
     });
-    guide.Expect(QStringLiteral("panel 1"), [&window] { return PanelText(window, 1); },
-                 QStringLiteral("System Message:  Quentor is Currently ON-LINE"));
-    guide.Expect(QStringLiteral("panel 2"), [&window] { return PanelText(window, 2); },
-                 QStringLiteral("ONLINE"));
+    guide.Expect(
+        QStringLiteral("panel 1"), [&window] { return PanelText(window, 1); },
+        QStringLiteral("System Message:  Quentor is Currently ON-LINE"));
+    guide.Expect(
+        QStringLiteral("panel 2"), [&window] { return PanelText(window, 2); },
+        QStringLiteral("ONLINE"));
     guide.Picture(QStringLiteral("back-online"));
 }
 } // namespace

@@ -54,6 +54,6 @@ private:
     QTimer timer_;
     QElapsedTimer waiting_;
     QStringList transcript_;
-    bool acting_ = false;
+    int acting_ = 0; // acts that have not returned
     int pictures_ = 0;
 };

@@ -37,8 +37,8 @@ int RunTour(const QString& output) {
     SerialMSComm port(clock, folder);
     Application application(
         {clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
-    application.MainWindow().resize(1280, 800);
     application.Start();
+    application.MainWindow().resize(1280, 800);
     TourGuide guide(application.MainWindow(), output);
     AddMainJob(guide, application.MainWindow(), board);
     guide.Start();
