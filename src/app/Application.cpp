@@ -1,5 +1,7 @@
 #include "app/Application.h"
 
+#include "app/StatusTableViews.h"
+#include "app/TransferViews.h"
 #include "controls/ViewHelpers.h"
 #include "link/views/frmDownloadProg.h"
 
@@ -8,7 +10,7 @@ Application::Application(const Platform& platform)
       loops_(BlockedByModalView),
       window_(ShellContext{link_, platform.port, platform.dialogs, platform.clock, platform.folder,
                            files_, platform.drives, platform.endProgram}) {
-    RegisterViews();
+    RegisterViews(platform);
 }
 
 Application::~Application() = default;
@@ -19,10 +21,13 @@ void Application::Start() {
 
 // Each view joins here: a modal one as a function, a child of the main window as a factory, its
 // entries as handlers.
-void Application::RegisterViews() {
+void Application::RegisterViews(const Platform& platform) {
     window_.Views().frmDownloadProg = [this](qint16 mode) {
         frmDownloadProg view(link_, &window_);
         view.SetTransferMode(mode);
         view.exec();
     };
+    transfers_ = std::make_unique<TransferViews>(platform, link_, files_, window_);
+    statusTable_ = std::make_unique<StatusTableViews>(platform, link_, loops_, transfers_->Jobs(),
+                                                      transfers_->Runner(), window_);
 }

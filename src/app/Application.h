@@ -4,6 +4,10 @@
 #include "base/ViewLoop.h"
 #include "link/RSComm.h"
 #include "shell/frmMDIMain.h"
+#include <memory>
+
+class StatusTableViews;
+class TransferViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
 /// application.
@@ -34,10 +38,12 @@ public:
     ViewLoopRunner& Loops() { return loops_; }
 
 private:
-    void RegisterViews();
+    void RegisterViews(const Platform& platform);
 
     FileSystem files_;
     RSComm link_;
     ViewLoopRunner loops_;
     frmMDIMain window_;
+    std::unique_ptr<TransferViews> transfers_;
+    std::unique_ptr<StatusTableViews> statusTable_;
 };

@@ -74,6 +74,8 @@ void frmMDIMain::ReleaseGlobals() {
 void frmMDIMain::Unload(qint16& Cancel) {
     if (!gMDIQueryUnload || context_.link.OperationRuns())
         Cancel = 1;
+    if (Cancel == 0 && !unloaded_ && views_.mayClose && !views_.mayClose())
+        Cancel = 1;
     if (Cancel != 0 || unloaded_)
         return;
     unloaded_ = true;

@@ -116,8 +116,12 @@ void AddIdentCheck(TourGuide& guide, frmMDIMain& window, BoardProcess& board) {
 }
 
 void AddLineCut(TourGuide& guide, frmMDIMain& window, BoardProcess& board) {
-    guide.Stop(QStringLiteral("cut the line"), Always,
-               [&board] { board.Command(QStringLiteral("fault silence")); });
+    // With the status table on the screen the board is polled while that view is the active one.
+    guide.Stop(QStringLiteral("press the status table button, cut the line"), Always,
+               [&window, &board] {
+                   PressButton(window, "Status");
+                   board.Command(QStringLiteral("fault silence"));
+               });
     guide.AnswerBox(QStringLiteral("WARNING - Communication Error!"), QStringLiteral("Cancel"),
                     QStringLiteral("line-cut"));
     guide.Expect(

@@ -86,11 +86,12 @@ void TourGuide::Picture(const QString& name) {
         [this, name] { TakePicture(name); });
 }
 
-void TourGuide::AnswerBox(const QString& title, const QString& button, const QString& picture) {
+void TourGuide::AnswerBox(const QString& title, const QString& button, const QString& picture,
+                          double patience) {
     const auto isUp = [title] { return OpenBox() && OpenBox()->windowTitle() == title; };
     if (!picture.isEmpty())
         Stop(QStringLiteral("box \"%1\" is up").arg(title), isUp,
-             [this, picture] { TakePicture(picture); });
+             [this, picture] { TakePicture(picture); }, patience);
     Stop(QStringLiteral("box \"%1\": press %2").arg(title, button), isUp, [this, button] {
         QMessageBox* box = OpenBox();
         Say(QStringLiteral("    says: ") + BoxText(*box));
@@ -101,7 +102,7 @@ void TourGuide::AnswerBox(const QString& title, const QString& button, const QSt
             return;
         }
         QTest::mouseClick(found, Qt::LeftButton);
-    });
+    }, patience);
 }
 
 QMessageBox* TourGuide::OpenBox() {

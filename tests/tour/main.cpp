@@ -38,7 +38,6 @@ int RunTour(const QString& output) {
     Application application(
         {clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
     application.Start();
-    application.MainWindow().resize(1280, 800);
     TourGuide guide(application.MainWindow(), output);
     AddMainJob(guide, application.MainWindow(), board);
     guide.Start();
@@ -46,8 +45,19 @@ int RunTour(const QString& output) {
 }
 } // namespace
 
+namespace {
+// Without a display the tour has a screen of 1280 x 800 pixels, as small as the program is used on.
+void ChooseScreen() {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (platform == "offscreen")
+        qputenv("QT_QPA_PLATFORM",
+                "offscreen:configfile=" QUENTOR_SOURCE_FOLDER "/tests/tour/screen.json");
+}
+} // namespace
+
 /// quentor-tour FOLDER [--dark]: pictures and transcript go to FOLDER.
 int main(int argc, char** argv) {
+    ChooseScreen();
     QApplication qt(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
