@@ -48,6 +48,8 @@ protected:
     }
 
     void ExpectNothingCut() {
+        auto* tabs = Find<QTabBar>("tabTargetBoard");
+        EXPECT_LE(tabs->tabRect(3).right(), tabs->width());
         for (const auto* label : view.findChildren<QLabel*>()) {
             if (!label->isVisible())
                 continue;
