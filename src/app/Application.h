@@ -5,9 +5,12 @@
 #include "link/RSComm.h"
 #include "programset/FileOperations.h"
 #include "shell/frmMDIMain.h"
+#include <memory>
 
 class ProcessStart;
 class SerialPorts;
+class StatusTableViews;
+class TransferViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
 /// application.
@@ -40,13 +43,14 @@ public:
     ViewLoopRunner& Loops() { return loops_; }
 
 private:
-    void RegisterViews();
-    void RegisterSetViews();
+    void RegisterViews(const Platform& platform);
+    void RegisterSetViews(const Platform& platform);
 
-    Platform platform_;
     FileSystem files_;
     DiskFileOperations fileOperations_;
     RSComm link_;
     ViewLoopRunner loops_;
     frmMDIMain window_;
+    std::unique_ptr<TransferViews> transfers_;
+    std::unique_ptr<StatusTableViews> statusTable_;
 };

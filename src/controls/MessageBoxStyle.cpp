@@ -2,6 +2,7 @@
 
 #include "base/Dialogs.h"
 #include <algorithm>
+#include <QRegularExpression>
 
 namespace {
 constexpr int abortAnswer = 3;
@@ -70,4 +71,24 @@ int AnswerOfButton(QMessageBox::StandardButton button) {
 
 QString WithLineFeeds(QString text) {
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+}
+
+QString TabsAsColumns(const QString& text) {
+    static const QRegularExpression tabs(QStringLiteral("\t+"));
+    const QString cell = QStringLiteral("<td%1 style=\"white-space:pre\">%2</td>");
+    const QString wide = QStringLiteral(" colspan=\"2\"");
+    QString table = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"0\">");
+    for (const QString& line : WithLineFeeds(text).split(u'\n')) {
+        const qsizetype gap = line.indexOf(tabs);
+        const QString left = (gap < 0 ? line : line.left(gap)).toHtmlEscaped();
+        const QString right = gap < 0 ? QString() : line.mid(gap).remove(tabs).toHtmlEscaped();
+        table += QStringLiteral("<tr>");
+        if (gap < 0)
+            table += cell.arg(wide, left.isEmpty() ? QStringLiteral("&nbsp;") : left);
+        else
+            table +=
+                cell.arg(QString(), left + QStringLiteral("    ")) + cell.arg(QString(), right);
+        table += QStringLiteral("</tr>");
+    }
+    return table + QStringLiteral("</table>");
 }

@@ -21,3 +21,8 @@ int AnswerOfButton(QMessageBox::StandardButton button);
 
 /// The text with one line feed for each line end, whether it was CR LF, CR or LF.
 QString WithLineFeeds(QString text);
+
+/// Text of parted lines in which tabs stand for columns, as a table in markup: a run of tabs parts
+/// two columns, whatever the font makes of a tab. What looks like markup in the text is shown as
+/// it stands.
+QString TabsAsColumns(const QString& text);

@@ -69,8 +69,9 @@ int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
     const ViewLoopHold hold;
     const MessageBoxStyle parts = StyleOfNumber(style);
     QMessageBox box(ParentWindow());
-    box.setTextFormat(Qt::PlainText); // a file name may look like markup
-    box.setText(WithLineFeeds(text));
+    const bool columns = text.contains(u'\t');
+    box.setTextFormat(columns ? Qt::RichText : Qt::PlainText); // a file name may look like markup
+    box.setText(columns ? TabsAsColumns(text) : WithLineFeeds(text));
     box.setWindowTitle(title);
     box.setIcon(parts.icon);
     for (const QMessageBox::StandardButton button : parts.buttons)

@@ -20,11 +20,11 @@ QString MinutesAndSeconds(double seconds) {
 JobTime TimeOfJob(double start, double now, qint32 first, qint32 value, qint32 max) {
     const double passed = now - start;
     const double done = static_cast<double>(value) - first;
-    const double toDo = static_cast<double>(max) - value;
+    const double ahead = static_cast<double>(max) - value;
     JobTime time;
     time.passed = MinutesAndSeconds(passed);
-    if (passed >= soonest && done > 0 && toDo >= 0)
-        time.remains = MinutesAndSeconds(std::ceil(passed / done * toDo));
+    if (passed >= soonest && done > 0 && ahead >= 0)
+        time.remains = MinutesAndSeconds(std::ceil(passed / done * ahead));
     return time;
 }
 

@@ -1,7 +1,6 @@
 #include "session/BackgroundUpdate.h"
 
 #include "base/Dialogs.h"
-#include "base/DoEvents.h"
 #include "base/RunTimeError.h"
 #include "link/RSComm.h"
 #include "link/TargetBoards.h"
@@ -35,7 +34,8 @@ void BackgroundUpdate::Tick() {
     else
         ReportOffline();
     views_.ShowSystemMessage(systemMessage_);
-    DoEvents();
+    // The tick yields by returning to the event loop. A yield from within would run what the user
+    // has clicked meanwhile, and a modal view opened by that would keep the tick from returning.
 }
 
 void BackgroundUpdate::NoticeModeChange() {

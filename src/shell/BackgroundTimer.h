@@ -17,6 +17,8 @@ public:
 
     void SetEnabled(bool enabled);
     bool Enabled() const { return timer_->isActive(); }
+    /// The timer itself, for the job runner, which stops it for the time of a job.
+    QTimer& Timer() { return *timer_; }
 
 private:
     void Tick();

@@ -18,20 +18,21 @@ struct PLSRoute {
     std::function<QString()> channelText;       ///< kept by the upload, for the .CHL file
 };
 
-/// Views that commands open. Each is handed in by the application as a function that shows the
-/// view; that of a modal one returns when it is closed. One that is empty is not there, and the
-/// commands that need it are disabled.
+/// Views that commands open, and the question at the end. Each is handed in by the application as a
+/// function that shows the view; that of a modal one returns when it is closed. One that is empty
+/// is not there, and the commands that need it are disabled.
 struct ModalViews {
     std::function<void(qint16 mode)> frmDownloadProg; ///< 0 dumps a program, 1 uploads one
     std::function<void()> frmSplash;                  ///< shown once at the end of start-up
     std::function<void(qint16 mode)> frmNewFile;      ///< 0 a new program, 1 one to be uploaded
     std::function<void()> frmCopyFile;
     std::function<void()> frmSetupComm;
-    std::function<void()> frmDataXfr; ///< reads gXferMode, gXferBoard and gXferFile
+    std::function<void()> frmDataXfr; ///< asks for the range, runs the transfer
     std::function<void(const QString& hdnFile)> frmTargetBoard;
     std::function<void(const QString& hdnFile)> frmEditDoc;
     std::function<void(qint16 mode)> frmViewResults; ///< 0 compile errors, 1 a new search, 2 as is
     std::function<void()> frmAbout;
     std::function<void()> helpTopics;
     std::optional<PLSRoute> pls;
+    std::function<bool()> mayClose; ///< asks about what would be lost; false keeps the program open
 };

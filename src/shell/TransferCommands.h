@@ -2,7 +2,6 @@
 
 #include <QString>
 
-class BackgroundTimer;
 class CommMode;
 class Dialogs;
 class FileSystem;
@@ -18,14 +17,12 @@ struct TransferContext {
     Dialogs& dialogs;
     const FileSystem& files;
     ProgramBrowser& browser;
-    BackgroundTimer& timer;
     ProgramCommands& programs;
     const ModalViews& views;
 };
 
-/// The commands that move programs, data and limit switch settings between a set and its board:
-/// which set they act on, what is asked, and the order of going online, stopping the timer and
-/// refreshing the browser.
+/// The commands that read a program from a board, or move limit switch settings:
+/// which set they act on, what is asked, and the order of going online and refreshing the browser.
 class TransferCommands {
 public:
     explicit TransferCommands(const TransferContext& context);
@@ -33,10 +30,6 @@ public:
     /// Asks for the name of a set, goes online and reads the board's program into it. Errors are
     /// shown, titled "Upload Program".
     void mnuFileUploadProgram_Click();
-    /// Moves board data to (XferMode::Download) or from (XferMode::Upload) the board of a set. A
-    /// limit switch board is read in either case. Errors are shown, titled "TransferData".
-    void StartDataTransfer(qint16 Action, bool BypassOpen);
-
     /// Ask for a set, then do as the two below.
     void mnuFileDownloadToPLS_Click();
     void mnuFileUploadFromPLS_Click();
@@ -49,7 +42,6 @@ private:
     QString BoardName() const;
     void UploadNamedProgram();
     void UploadFromPLC();
-    void TransferChosenData(qint16 Action);
     void RefreshBrowser();
     void ShowDownloadedChannels();
     void SavePLSFiles();

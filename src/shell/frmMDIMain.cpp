@@ -26,15 +26,17 @@ frmMDIMain::frmMDIMain(const ShellContext& context)
     RefreshCommandState();
 }
 
-frmMDIMain::~frmMDIMain() = default;
+// Nobody may look at the views any more while their area goes.
+frmMDIMain::~frmMDIMain() {
+    delete children_;
+}
 
 void frmMDIMain::MakeCommands() {
     const SetFiles setFiles{context_.link,           context_.dialogs, context_.files,
                             context_.fileOperations, context_.drives,  *browser_};
     sets_ = std::make_unique<SetCommands>(setFiles, *programs_, *recent_, views_);
-    transfers_ = std::make_unique<TransferCommands>(
-        TransferContext{context_.link, mode_, context_.dialogs, context_.files, *browser_, *timer_,
-                        *programs_, views_});
+    transfers_ = std::make_unique<TransferCommands>(TransferContext{
+        context_.link, mode_, context_.dialogs, context_.files, *browser_, *programs_, views_});
     tools_ = std::make_unique<ToolCommands>(ToolContext{context_.link, mode_, context_.dialogs,
                                                         context_.clock, context_.files, *browser_,
                                                         *programs_, *surface_, views_},
@@ -85,6 +87,8 @@ void frmMDIMain::ReleaseGlobals() {
 
 void frmMDIMain::Unload(qint16& Cancel) {
     if (!gMDIQueryUnload || context_.link.OperationRuns())
+        Cancel = 1;
+    if (Cancel == 0 && !unloaded_ && views_.mayClose && !views_.mayClose())
         Cancel = 1;
     if (Cancel != 0 || unloaded_)
         return;

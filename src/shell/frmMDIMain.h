@@ -89,9 +89,8 @@ private:
     void Handle(const char* name, CommandSurface::Handler handler);
     void RegisterCommands();
     void RegisterTools();
-    void TakeTransferViews();
+    void TakePLSRoute();
     void TakeResultsView();
-    void TakeChildView(const char* entry, const char* view);
 
     // frmMDIMainCommands.cpp
     void mnuFileExit_Click();

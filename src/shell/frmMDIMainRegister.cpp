@@ -1,14 +1,11 @@
 #include "shell/frmMain.h"
 #include "shell/frmMDIMain.h"
-#include <QWidget>
 
 // Which entry runs which command. An entry whose view is not there gets no handler, and is
 // disabled by that.
 
 namespace {
 constexpr qint16 asLastShown = 2; // mode of frmViewResults
-constexpr qint16 download = 1;    // data transfers
-constexpr qint16 upload = 2;
 constexpr qint16 openForEditing = 0;
 constexpr qint16 configureSystem = 2;
 constexpr qint16 compile = 3;
@@ -80,20 +77,11 @@ void frmMDIMain::TakeViews() {
         Handle("mnuHelpAbout", [this] { views_.frmAbout(); });
     if (views_.helpTopics)
         Handle("mnuHelpTopics", [this] { views_.helpTopics(); });
-    TakeTransferViews();
+    TakePLSRoute();
     TakeResultsView();
-    TakeChildView("mnuToolsStatusTable", "frmStatusTable");
-    TakeChildView("mnuToolsTrending", "frmTrending");
-    TakeChildView("mnuToolsPLSProgramming", "frmTiming");
 }
 
-void frmMDIMain::TakeTransferViews() {
-    if (views_.frmDataXfr) {
-        Handle("mnuFileDownloadData", [this] { transfers_->StartDataTransfer(download, false); });
-        Handle("mnuFileUploadData", [this] { transfers_->StartDataTransfer(upload, false); });
-        Handle("Download", [this] { transfers_->StartDataTransfer(download, true); });
-        Handle("Upload", [this] { transfers_->StartDataTransfer(upload, true); });
-    }
+void frmMDIMain::TakePLSRoute() {
     if (!views_.pls)
         return;
     Handle("mnuFileDownloadToPLS", [this] { transfers_->mnuFileDownloadToPLS_Click(); });
@@ -111,16 +99,4 @@ void frmMDIMain::TakeResultsView() {
     Handle("mnuViewSearchResults", [this] { views_.frmViewResults(asLastShown); });
     browser_->HandleNode(NodeAction::ShowErrors,
                          [this](const QString&) { views_.frmViewResults(0); });
-}
-
-// The view sets the focus inside itself when it is shown.
-void frmMDIMain::TakeChildView(const char* entry, const char* view) {
-    const QString name = QString::fromLatin1(view);
-    if (!children_->Knows(name))
-        return;
-    Handle(entry, [this, name] {
-        children_->Show(name);
-        if (QWidget* shown = children_->View(name))
-            shown->setFocus();
-    });
 }

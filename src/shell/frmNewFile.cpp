@@ -67,7 +67,9 @@ void frmNewFile::BuildForm() {
     auto* form = new QVBoxLayout(this);
     form->addLayout(panes, 1);
     form->addLayout(buttons);
-    setTabOrder({txtNew_, filNew_, cboNew_, drvNew_, dirNew_, cmdOk_, cmdCancel_});
+    const QWidgetList order{txtNew_, filNew_, cboNew_, drvNew_, dirNew_, cmdOk_, cmdCancel_};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 QWidget* frmNewFile::Places() {

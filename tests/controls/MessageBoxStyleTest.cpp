@@ -2,6 +2,9 @@
 
 #include "base/Dialogs.h"
 #include <gtest/gtest.h>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextTable>
 
 namespace {
 void ExpectStyle(int number, QMessageBox::Icon icon,
@@ -38,4 +41,22 @@ TEST(MessageBoxStyle, ButtonsAnswerByNumber) {
 
 TEST(MessageBoxStyle, LineEndsOfAnyKindBecomeLineFeeds) {
     EXPECT_EQ(WithLineFeeds("a\r\nb\rc\nd\r\r\ne").toStdString(), "a\nb\nc\nd\n\ne");
+}
+
+TEST(MessageBoxStyle, TabsBecomeColumnsAndMarkupStaysText) {
+    const QString table = TabsAsColumns("Head <b>\r  Ident:\t\tA&B\r\r\tSize: 1");
+    QTextDocument document;
+    document.setHtml(table);
+    EXPECT_EQ(document.rootFrame()->childFrames().size(), 1);
+    const auto* columns = qobject_cast<QTextTable*>(document.rootFrame()->childFrames().first());
+    ASSERT_NE(columns, nullptr);
+    EXPECT_EQ(columns->rows(), 4);
+    EXPECT_EQ(columns->columns(), 2);
+    const auto text = [&](int row, int column) {
+        return columns->cellAt(row, column).firstCursorPosition().block().text().toStdString();
+    };
+    EXPECT_EQ(text(0, 0), "Head <b>");
+    EXPECT_EQ(text(1, 0), "  Ident:    ");
+    EXPECT_EQ(text(1, 1), "A&B");
+    EXPECT_EQ(text(3, 1), "Size: 1");
 }

@@ -8,10 +8,12 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <utility>
 
 namespace {
 constexpr int lookInterval = 50; // milliseconds
+constexpr int titleHeight = 24;  // pixels at 100 per cent
 
 // Windows from the bottom up: the main window, then the open boxes and dialogs.
 QList<QWidget*> WindowsOnScreen(QWidget& mainWindow) {
@@ -21,6 +23,30 @@ QList<QWidget*> WindowsOnScreen(QWidget& mainWindow) {
         if (window != &mainWindow && window->isVisible() && window->windowType() != Qt::ToolTip)
             windows.append(window);
     return windows;
+}
+
+// What a box says, as plain text: boxes with columns are set in rich text.
+QString BoxText(const QMessageBox& box) {
+    const QString text = Qt::mightBeRichText(box.text())
+                             ? QTextDocumentFragment::fromHtml(box.text()).toPlainText()
+                             : box.text();
+    return QString(text).replace(u'\n', QLatin1String(" / "));
+}
+
+// A window as it stands on the screen: its own picture below a strip with its title, which the
+// window system would draw.
+QPixmap WithTitle(QWidget& window) {
+    const QPixmap inside = window.grab();
+    const qreal ratio = inside.devicePixelRatio();
+    QPixmap picture(inside.width(), inside.height() + qRound(titleHeight * ratio));
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(QApplication::palette().color(QPalette::Dark));
+    QPainter painter(&picture);
+    painter.setPen(QApplication::palette().color(QPalette::BrightText));
+    painter.drawText(QRect(8, 0, window.width() - 16, titleHeight), Qt::AlignVCenter,
+                     window.windowTitle());
+    painter.drawPixmap(0, titleHeight, inside);
+    return picture;
 }
 
 QString ButtonText(const QPushButton& button) {
@@ -49,23 +75,26 @@ void TourGuide::Stop(const QString& what, std::function<bool()> ready, std::func
 }
 
 void TourGuide::Expect(const QString& what, std::function<QString()> found, const QString& wanted) {
-    Stop(QStringLiteral("%1 is \"%2\"").arg(what, wanted),
-         [found = std::move(found), wanted] { return found() == wanted; }, [] {});
+    Stop(
+        QStringLiteral("%1 is \"%2\"").arg(what, wanted),
+        [found = std::move(found), wanted] { return found() == wanted; }, [] {});
 }
 
 void TourGuide::Picture(const QString& name) {
     Stop(
-        QStringLiteral("picture ") + name, [] { return true; }, [this, name] { TakePicture(name); });
+        QStringLiteral("picture ") + name, [] { return true; },
+        [this, name] { TakePicture(name); });
 }
 
-void TourGuide::AnswerBox(const QString& title, const QString& button, const QString& picture) {
+void TourGuide::AnswerBox(const QString& title, const QString& button, const QString& picture,
+                          double patience) {
     const auto isUp = [title] { return OpenBox() && OpenBox()->windowTitle() == title; };
     if (!picture.isEmpty())
         Stop(QStringLiteral("box \"%1\" is up").arg(title), isUp,
-             [this, picture] { TakePicture(picture); });
+             [this, picture] { TakePicture(picture); }, patience);
     Stop(QStringLiteral("box \"%1\": press %2").arg(title, button), isUp, [this, button] {
         QMessageBox* box = OpenBox();
-        Say(QStringLiteral("    says: ") + box->text().replace(QLatin1String("\n"), QLatin1String(" / ")));
+        Say(QStringLiteral("    says: ") + BoxText(*box));
         QPushButton* found = FindButton(*box, button);
         if (!found) {
             Say(QStringLiteral("FAILED: the box has no such button"));
@@ -73,7 +102,7 @@ void TourGuide::AnswerBox(const QString& title, const QString& button, const QSt
             return;
         }
         QTest::mouseClick(found, Qt::LeftButton);
-    });
+    }, patience);
 }
 
 QMessageBox* TourGuide::OpenBox() {
@@ -85,11 +114,11 @@ void TourGuide::Start() {
     timer_.start();
 }
 
-// An act that opens a modal box runs an event loop inside itself: the timer goes on looking there,
-// but the stop it belongs to is already taken from the list.
+// An act may open a modal box, whose event loop runs inside it. A timer does not fire again while
+// its own handler runs, so the act is done from the event queue and the looking goes on meanwhile.
 void TourGuide::Look() {
     if (stops_.empty()) {
-        if (!acting_)
+        if (acting_ == 0)
             Finish(0);
         return;
     }
@@ -98,9 +127,14 @@ void TourGuide::Look() {
         stops_.pop_front();
         waiting_.restart();
         Say(stop.what);
-        acting_ = true;
-        stop.act();
-        acting_ = false;
+        ++acting_;
+        QMetaObject::invokeMethod(
+            this,
+            [this, act = stop.act] {
+                act();
+                --acting_;
+            },
+            Qt::QueuedConnection);
     } else if (waiting_.elapsed() > stop.patience * 1000) {
         Say(QStringLiteral("FAILED: not within %1 s: %2").arg(stop.patience).arg(stop.what));
         TakePicture(QStringLiteral("failed"));
@@ -113,10 +147,13 @@ void TourGuide::TakePicture(const QString& name) {
     QPainter painter(&picture);
     const QList<QWidget*> windows = WindowsOnScreen(mainWindow_);
     for (QWidget* window : windows.mid(1))
-        painter.drawPixmap(window->pos() - mainWindow_.pos(), window->grab());
+        painter.drawPixmap(window->pos() - mainWindow_.pos() - QPoint(0, titleHeight),
+                           WithTitle(*window));
     painter.end();
-    const QString file =
-        QStringLiteral("%1/%2-%3.png").arg(folder_).arg(++pictures_, 2, 10, QLatin1Char('0')).arg(name);
+    const QString file = QStringLiteral("%1/%2-%3.png")
+                             .arg(folder_)
+                             .arg(++pictures_, 2, 10, QLatin1Char('0'))
+                             .arg(name);
     Say(picture.save(file) ? QStringLiteral("    picture ") + QDir(folder_).relativeFilePath(file)
                            : QStringLiteral("FAILED: cannot write ") + file);
 }

@@ -29,7 +29,8 @@ public:
     void Picture(const QString& name);
     /// Adds a stop that waits for a message box with this title and presses one of its buttons.
     /// With a picture name, takes the picture before.
-    void AnswerBox(const QString& title, const QString& button, const QString& picture = {});
+    void AnswerBox(const QString& title, const QString& button, const QString& picture = {},
+                   double patience = 20.0);
 
     /// Runs the stops and leaves the event loop with 0, or with 1 at the first failure.
     void Start();
@@ -54,6 +55,6 @@ private:
     QTimer timer_;
     QElapsedTimer waiting_;
     QStringList transcript_;
-    bool acting_ = false;
+    int acting_ = 0; // acts that have not returned
     int pictures_ = 0;
 };

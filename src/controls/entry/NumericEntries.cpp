@@ -33,10 +33,15 @@ void NumericEntries::Add(int index, QLineEdit& box, EntryUpDown& upDown) {
     connect(&upDown, &EntryUpDown::Changed, this, [this, index] { UpDownChanged(index); });
 }
 
+// The focus goes to the hidden button: it must not stray into the next entry by itself.
 void NumericEntries::SetEnabled(int index, bool enabled) {
     const Pair& pair = At(index);
-    const bool leaves = !enabled && pair.box->isEnabled();
-    const QScopedValueRollback<bool> unchecked(leavesUnchecked_, true);
+    const bool hasFocus = pair.box->window()->focusWidget() == pair.box;
+    const bool leaves = !enabled && (hasFocus || refused_ == index);
+    if (leaves) {
+        refused_.reset();
+        LeaveForDefault();
+    }
     pair.box->setEnabled(enabled);
     pair.upDown->setEnabled(enabled);
     if (leaves)

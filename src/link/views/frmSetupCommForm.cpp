@@ -36,8 +36,10 @@ void frmSetupComm::BuildForm() {
         1, context_.dialogs, *MakeDefaultButton(*this),
         [](int) { return QStringLiteral("Comm Port"); }, this);
     entries_->Add(0, *txtCommPort_, *updCommPort_);
-    setTabOrder({txtCommPort_, lstPorts_, optPortSpeed_[0], optPortSpeed_[1], cmdTest_, cmdSave_,
-                 cmdCancel_});
+    const QWidgetList order{txtCommPort_, lstPorts_, optPortSpeed_[0], optPortSpeed_[1],
+                            cmdTest_,     cmdSave_,  cmdCancel_};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 QBoxLayout* frmSetupComm::PortEntry() {

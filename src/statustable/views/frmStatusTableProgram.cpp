@@ -156,6 +156,7 @@ void frmStatusTable::ClickViewDescriptions(bool checked) {
 
 void frmStatusTable::EmptyNames() {
     SizeGrid();
+    SetText(1, TableColumn::Name, NameHead());
     for (int row = firstDataRow; row < Rows() - 1; ++row)
         SetText(row, TableColumn::Name, QString());
     FocusGrid();

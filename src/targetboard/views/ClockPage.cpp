@@ -34,34 +34,34 @@ ClockPage::ClockPage(NumericEntries& entries, QWidget* parent)
           Button(QStringLiteral("cmdSetToCurrDate"), QStringLiteral("Set to Current &Date"))) {
     setObjectName(IndexedName("fraTargetBoard", 3));
     parts_.reserve(2 * entriesPerHalf);
+    auto* clocks = new QGridLayout;
+    AddHalf(*clocks,
+            {0, lblTargetBoardTime_, lblCurrTime_, cmdSetToCurrTime_, timeEntry,
+             QStringLiteral("Computer Time:")},
+            entries);
+    clocks->setRowMinimumHeight(2, cmdSetToCurrTime_->sizeHint().height() / 2);
+    AddHalf(*clocks,
+            {3, lblTargetBoardDate_, lblCurrDate_, cmdSetToCurrDate_, dateEntry,
+             QStringLiteral("Computer Date:")},
+            entries);
+    clocks->setColumnStretch(7, 1);
     auto* form = new QVBoxLayout(this);
-    form->addWidget(MakeHalf({lblTargetBoardTime_, lblCurrTime_, cmdSetToCurrTime_, timeEntry,
-                              QStringLiteral("Computer Time:")},
-                             entries));
-    form->addSpacing(form->spacing() * 2);
-    form->addWidget(MakeHalf({lblTargetBoardDate_, lblCurrDate_, cmdSetToCurrDate_, dateEntry,
-                              QStringLiteral("Computer Date:")},
-                             entries));
+    form->addLayout(clocks);
     form->addSpacing(form->spacing() * 2);
     form->addWidget(MakeNotes());
     form->addStretch();
 }
 
-QWidget* ClockPage::MakeHalf(const Half& half, NumericEntries& entries) {
-    auto* area = new QWidget;
-    auto* grid = new QGridLayout(area);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(half.boardLabel, 0, 0);
+void ClockPage::AddHalf(QGridLayout& grid, const Half& half, NumericEntries& entries) {
+    grid.addWidget(half.boardLabel, half.row, 0);
     for (int i = 0; i < entriesPerHalf; ++i) {
         const SetupControls& part = parts_.emplace_back(half.firstEntry + i, entries);
-        grid->addWidget(part.Label(), 0, 1 + 2 * i, Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(part.Pair(), 0, 2 + 2 * i);
+        grid.addWidget(part.Label(), half.row, 1 + 2 * i, Qt::AlignRight | Qt::AlignVCenter);
+        grid.addWidget(part.Pair(), half.row, 2 + 2 * i);
     }
-    grid->addWidget(new QLabel(half.computerCaption), 1, 0);
-    grid->addWidget(half.computerLabel, 1, 1, 1, 4);
-    grid->addWidget(half.button, 1, 5, 1, 2);
-    grid->setColumnStretch(7, 1);
-    return area;
+    grid.addWidget(new QLabel(half.computerCaption), half.row + 1, 0);
+    grid.addWidget(half.computerLabel, half.row + 1, 1, 1, 4);
+    grid.addWidget(half.button, half.row + 1, 5, 1, 2);
 }
 
 QWidget* ClockPage::MakeNotes() {

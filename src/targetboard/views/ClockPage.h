@@ -4,7 +4,8 @@
 #include <QFrame>
 #include <vector>
 
-class QGroupBox;
+class QGridLayout;
+class QLabel;
 class QPushButton;
 
 /// The page of the real time clock, fraTargetBoard(3).
@@ -17,15 +18,16 @@ public:
     QPushButton* cmdSetToCurrDate() const { return cmdSetToCurrDate_; }
 
 private:
-    // One half of the page: the clock of the board above, that of the computer below.
+    // Two rows of the page: the clock of the board above, that of the computer below.
     struct Half {
+        int row;
         QLabel* boardLabel;
         QLabel* computerLabel;
         QPushButton* button;
         int firstEntry;
         QString computerCaption;
     };
-    QWidget* MakeHalf(const Half& half, NumericEntries& entries);
+    void AddHalf(QGridLayout& grid, const Half& half, NumericEntries& entries);
     QWidget* MakeNotes();
 
     std::vector<SetupControls> parts_;

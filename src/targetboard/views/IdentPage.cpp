@@ -10,6 +10,14 @@
 namespace {
 constexpr std::array<const char*, IdentLabel::OnDiskCount> captions{
     "Name:", "Revision:", "Checksum:", "Target Board:", "Rev Date:"};
+
+// Names in a board may be filled up with bytes that are no characters.
+QString Printable(QString text) {
+    for (QChar& character : text)
+        if (!character.isPrint())
+            character = u' ';
+    return text;
+}
 } // namespace
 
 IdentPage::IdentPage(QWidget* parent) : QFrame(parent) {
@@ -28,6 +36,8 @@ QGroupBox* IdentPage::IdentFrame(const QString& title, const char* name,
     auto* frame = new QGroupBox(title);
     auto* grid = new QGridLayout(frame);
     grid->setColumnStretch(1, 1);
+    const QString longest = QLatin1String(captions[IdentLabel::TargetBoard]);
+    grid->setColumnMinimumWidth(0, frame->fontMetrics().horizontalAdvance(longest)); // as the other
     for (std::size_t i = 0; i < count; ++i) {
         const int row = static_cast<int>(i);
         grid->addWidget(new QLabel(QLatin1String(captions[i])), row, 0);
@@ -41,9 +51,9 @@ QGroupBox* IdentPage::IdentFrame(const QString& title, const char* name,
 
 void IdentPage::Show(const TargetBoardShown& shown) {
     for (std::size_t i = 0; i < lblRevIdentInPLC_.size(); ++i) {
-        lblRevIdentInPLC_[i]->setText(shown.lblRevIdentInPLC[i]);
+        lblRevIdentInPLC_[i]->setText(Printable(shown.lblRevIdentInPLC[i]));
         lblRevIdentInPLC_[i]->setEnabled(shown.controls.lblRevIdentInPLC());
     }
     for (std::size_t i = 0; i < lblRevIdentOnDisk_.size(); ++i)
-        lblRevIdentOnDisk_[i]->setText(shown.lblRevIdentOnDisk[i]);
+        lblRevIdentOnDisk_[i]->setText(Printable(shown.lblRevIdentOnDisk[i]));
 }

@@ -39,6 +39,8 @@ void frmTargetBoard::BuildForm(Dialogs& dialogs) {
     tabTargetBoard_ = new QTabBar;
     tabTargetBoard_->setObjectName(QStringLiteral("tabTargetBoard"));
     tabTargetBoard_->setFocusPolicy(Qt::StrongFocus); // a click leaves an entry, which is checked
+    tabTargetBoard_->setUsesScrollButtons(false);     // all four are always in sight
+    tabTargetBoard_->setElideMode(Qt::ElideNone);
     for (const char* caption : {"&Fault Codes / Status", "&Program Ident/Revision",
                                 "&Set Network Address", "S&et Time && Date"})
         tabTargetBoard_->addTab(QLatin1String(caption));

@@ -50,7 +50,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
     }
     template <class T>
-    T* Part(const char* name) const {
+    T* Child(const char* name) const {
         return view->findChild<T*>(QString::fromLatin1(name));
     }
     // What a handler has put off may put off more.
@@ -59,23 +59,23 @@ protected:
             QApplication::processEvents();
     }
     void Click(const char* name) const {
-        QTest::mouseClick(Part<QWidget>(name), Qt::LeftButton);
+        QTest::mouseClick(Child<QWidget>(name), Qt::LeftButton);
         Settle();
     }
     void ChooseRange() const {
         // The hit area of an option is its mark and text, not the whole row.
-        auto* option = Part<QRadioButton>("optRange(1)");
+        auto* option = Child<QRadioButton>("optRange(1)");
         QTest::mouseClick(option, Qt::LeftButton, Qt::NoModifier, QPoint(8, option->height() / 2));
         Settle();
     }
     void ChooseStandard() const {
-        auto* option = Part<QRadioButton>("optRange(0)");
+        auto* option = Child<QRadioButton>("optRange(0)");
         QTest::mouseClick(option, Qt::LeftButton, Qt::NoModifier, QPoint(8, option->height() / 2));
         Settle();
     }
     // Types over what stands in the entry; the entry takes the focus first.
     void Type(const char* name, const char* text) const {
-        auto* entry = Part<QLineEdit>(name);
+        auto* entry = Child<QLineEdit>(name);
         if (!entry->hasFocus())
             QTest::mouseClick(entry, Qt::LeftButton);
         entry->selectAll();
@@ -85,7 +85,7 @@ protected:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         Settle();
     }
-    QString Text(const char* name) const { return Part<QLineEdit>(name)->text(); }
+    QString Text(const char* name) const { return Child<QLineEdit>(name)->text(); }
     QString Focus() const {
         return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
     }
@@ -119,7 +119,7 @@ TEST_F(DataXfr, StandardEmptiesAndDisablesTheEntries) {
     ChooseStandard();
     for (const char* name :
          {"lblRange(0)", "lblRange(1)", "txtRange(0)", "txtRange(1)", "updRange(0)", "updRange(1)"})
-        EXPECT_FALSE(Part<QWidget>(name)->isEnabled()) << name;
+        EXPECT_FALSE(Child<QWidget>(name)->isEnabled()) << name;
     EXPECT_EQ(Text("txtRange(0)"), "");
     EXPECT_EQ(Text("txtRange(1)"), "");
 }
@@ -135,9 +135,9 @@ TEST_F(DataXfr, RangeFillsTheEntriesWithTheStandardRangeOfTheBoard) {
         ChooseRange();
         EXPECT_EQ(Text("txtRange(0)"), row.from);
         EXPECT_EQ(Text("txtRange(1)"), row.to);
-        EXPECT_TRUE(Part<QWidget>("updRange(1)")->isEnabled());
+        EXPECT_TRUE(Child<QWidget>("updRange(1)")->isEnabled());
         EXPECT_EQ(Focus(), "txtRange(0)");
-        EXPECT_EQ(Part<QLineEdit>("txtRange(0)")->selectedText(), row.from);
+        EXPECT_EQ(Child<QLineEdit>("txtRange(0)")->selectedText(), row.from);
     }
 }
 
@@ -186,7 +186,7 @@ TEST_F(DataXfr, ReturnMovesOnLikeTab) {
     ChooseRange();
     PressReturn();
     EXPECT_EQ(Focus(), "txtRange(1)");
-    EXPECT_EQ(Part<QLineEdit>("txtRange(1)")->selectedText(), "219");
+    EXPECT_EQ(Child<QLineEdit>("txtRange(1)")->selectedText(), "219");
     EXPECT_TRUE(runner.runs.empty());
 }
 
@@ -232,7 +232,7 @@ TEST_F(DataXfr, ReversedRangeIsRefused) {
     PressReturn();
     Type("txtRange(1)", "100");
     PressReturn();
-    QTest::mouseClick(Part<QLineEdit>("txtRange(0)"), Qt::LeftButton);
+    QTest::mouseClick(Child<QLineEdit>("txtRange(0)"), Qt::LeftButton);
     Type("txtRange(0)", "101");
     ExpectRefusal("TO Can Not Be Greater Than FROM");
     PressReturn();
@@ -264,19 +264,19 @@ TEST_F(DataXfr, GivingUpTheRangeNeedsNoValidEntry) {
 TEST_F(DataXfr, ArrowsStepTheEntryWithinTheRange) {
     Open();
     ChooseRange();
-    auto* arrows = Part<UpDown>("updRange(0)");
+    auto* arrows = Child<UpDown>("updRange(0)");
     QTest::mouseClick(arrows->findChild<QToolButton*>(QStringLiteral("up")), Qt::LeftButton);
     EXPECT_EQ(Text("txtRange(0)"), "71");
     for (int i = 0; i < 3; ++i)
         QTest::mouseClick(arrows->findChild<QToolButton*>(QStringLiteral("down")), Qt::LeftButton);
     EXPECT_EQ(Text("txtRange(0)"), "70");
-    QTest::keyClick(Part<QLineEdit>("txtRange(0)"), Qt::Key_Up);
+    QTest::keyClick(Child<QLineEdit>("txtRange(0)"), Qt::Key_Up);
     EXPECT_EQ(arrows->Value(), 71);
     Type("txtRange(0)", "150");
-    QTest::keyClick(Part<QLineEdit>("txtRange(0)"), Qt::Key_Down);
+    QTest::keyClick(Child<QLineEdit>("txtRange(0)"), Qt::Key_Down);
     EXPECT_EQ(Text("txtRange(0)"), "149");
     Type("txtRange(0)", "x");
-    QTest::keyClick(Part<QLineEdit>("txtRange(0)"), Qt::Key_Up);
+    QTest::keyClick(Child<QLineEdit>("txtRange(0)"), Qt::Key_Up);
     EXPECT_EQ(Text("txtRange(0)"), "150");
     EXPECT_EQ(Focus(), "txtRange(0)");
 }
@@ -286,7 +286,7 @@ TEST_F(DataXfr, RunsTheJobFromExecAndReturns) {
     runner.dialog = view.get();
     QTimer::singleShot(0, view.get(), [this] {
         ChooseStandard();
-        QTest::mouseClick(Part<QWidget>("cmdOk"), Qt::LeftButton);
+        QTest::mouseClick(Child<QWidget>("cmdOk"), Qt::LeftButton);
     });
     view->exec();
     EXPECT_EQ(runner.runs, (std::vector<JobRun>{{4, 70, 219, true}}));

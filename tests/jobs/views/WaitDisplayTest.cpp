@@ -19,7 +19,7 @@ QWidget* BusyView() {
 }
 
 template <class T>
-T* Part(const char* name) {
+T* Child(const char* name) {
     return BusyView() ? BusyView()->findChild<T*>(QString::fromLatin1(name)) : nullptr;
 }
 
@@ -57,11 +57,11 @@ TEST_F(WaitDisplayView, ShowsTheMessageOfTheJobAndGoesAwayWithIt) {
         ran = true;
         ASSERT_TRUE(BusyView());
         EXPECT_TRUE(BusyView()->isVisible());
-        EXPECT_EQ(Part<QLabel>("lblWaitDisplay")->text(),
+        EXPECT_EQ(Child<QLabel>("lblWaitDisplay")->text(),
                   "Downloading Target Board Data, Please Standby ...");
-        EXPECT_TRUE(Part<QPushButton>("cmdCancel")->isEnabled());
-        EXPECT_TRUE(Part<QProgressBar>("pbrWaitDisplay")->isVisible());
-        EXPECT_FALSE(Part<QLabel>("lblSetpointRecall")->isVisible());
+        EXPECT_TRUE(Child<QPushButton>("cmdCancel")->isEnabled());
+        EXPECT_TRUE(Child<QProgressBar>("pbrWaitDisplay")->isVisible());
+        EXPECT_FALSE(Child<QLabel>("lblSetpointRecall")->isVisible());
         EXPECT_EQ(gWaitJob, 4);
     });
     EXPECT_TRUE(ran);
@@ -70,18 +70,18 @@ TEST_F(WaitDisplayView, ShowsTheMessageOfTheJobAndGoesAwayWithIt) {
 TEST_F(WaitDisplayView, PrintingHasItsMessageAtHalfTheFrameAndNoBar) {
     RunWith(WaitJob::PrintTrendData, [&](JobProgress& shown) {
         shown.Yield();
-        const auto* frame = Part<QFrame>("fraWaitDisplay");
-        EXPECT_NEAR(Part<QLabel>("lblWaitDisplay")->y(), frame->height() / 2, 2);
-        EXPECT_FALSE(Part<QPushButton>("cmdCancel")->isEnabled());
-        EXPECT_FALSE(Part<QProgressBar>("pbrWaitDisplay")->isVisible());
+        const auto* frame = Child<QFrame>("fraWaitDisplay");
+        EXPECT_NEAR(Child<QLabel>("lblWaitDisplay")->y(), frame->height() / 2, 2);
+        EXPECT_FALSE(Child<QPushButton>("cmdCancel")->isEnabled());
+        EXPECT_FALSE(Child<QProgressBar>("pbrWaitDisplay")->isVisible());
     });
 }
 
 TEST_F(WaitDisplayView, MovingAPLSShowsTheSecondLineAndCannotBeCancelled) {
     for (const qint16 code : {6, 7, 8})
         RunWith(code, [code](JobProgress& shown) {
-            EXPECT_EQ(Part<QLabel>("lblSetpointRecall")->isVisible(), code != 8);
-            QTest::mouseClick(Part<QPushButton>("cmdCancel"), Qt::LeftButton);
+            EXPECT_EQ(Child<QLabel>("lblSetpointRecall")->isVisible(), code != 8);
+            QTest::mouseClick(Child<QPushButton>("cmdCancel"), Qt::LeftButton);
             QTest::keyClick(BusyView(), Qt::Key_Escape);
             shown.Yield();
             EXPECT_FALSE(shown.Cancelled());
@@ -90,7 +90,7 @@ TEST_F(WaitDisplayView, MovingAPLSShowsTheSecondLineAndCannotBeCancelled) {
 
 TEST_F(WaitDisplayView, CancelAndEscapeAndTheCloseBoxSetTheFlagAndNothingElse) {
     const std::function<void()> ways[] = {
-        [] { QTest::mouseClick(Part<QPushButton>("cmdCancel"), Qt::LeftButton); },
+        [] { QTest::mouseClick(Child<QPushButton>("cmdCancel"), Qt::LeftButton); },
         [] { QTest::keyClick(BusyView(), Qt::Key_Escape); },
         [] { BusyView()->close(); },
     };
@@ -151,11 +151,11 @@ TEST_F(WaitDisplayView, ShowsProgressTimePassedAndWhatRemains) {
         shown.ShowSecondLine(QStringLiteral("second"));
         clock.Wait(10);
         QTest::qWait(2 * frmWaitDisplay::repaintInterval);
-        EXPECT_EQ(Part<QLabel>("lblWaitDisplay")->text(), "Uploaded  1 from B699");
-        EXPECT_EQ(Part<QLabel>("lblSetpointRecall")->text(), "second");
-        EXPECT_EQ(Part<QProgressBar>("pbrWaitDisplay")->value(), 700);
-        EXPECT_EQ(Part<QProgressBar>("pbrWaitDisplay")->maximum(), 1000);
-        EXPECT_EQ(Part<QLabel>("lblJobTime")->text(), "Time passed 0:10, about 0:30 left");
+        EXPECT_EQ(Child<QLabel>("lblWaitDisplay")->text(), "Uploaded  1 from B699");
+        EXPECT_EQ(Child<QLabel>("lblSetpointRecall")->text(), "second");
+        EXPECT_EQ(Child<QProgressBar>("pbrWaitDisplay")->value(), 700);
+        EXPECT_EQ(Child<QProgressBar>("pbrWaitDisplay")->maximum(), 1000);
+        EXPECT_EQ(Child<QLabel>("lblJobTime")->text(), "Time passed 0:10, about 0:30 left");
     });
 }
 
@@ -165,7 +165,7 @@ TEST_F(WaitDisplayView, RepaintsAtMost25TimesASecond) {
     qint64 lasted = 0;
     RunWith(WaitJob::TransferData, [&](JobProgress& shown) {
         shown.Yield();
-        Part<QLabel>("lblWaitDisplay")->installEventFilter(&paints);
+        Child<QLabel>("lblWaitDisplay")->installEventFilter(&paints);
         QElapsedTimer time;
         for (time.start(); time.elapsed() < 400; ++messages) {
             shown.ShowMessage(QString::number(messages));
@@ -189,7 +189,7 @@ TEST_F(WaitDisplayView, ClickOnCancelIsTakenWithinOneAddress) {
         if (++turns != 20)
             return;
         sentAtClick = port.Sent().size();
-        QTest::mouseClick(Part<QPushButton>("cmdCancel"), Qt::LeftButton);
+        QTest::mouseClick(Child<QPushButton>("cmdCancel"), Qt::LeftButton);
     });
     user.start(0);
     runner.RunWaitJob(WaitJob::TransferData);

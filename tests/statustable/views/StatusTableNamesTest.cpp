@@ -60,6 +60,7 @@ TEST_F(StatusTableNames, Column0ShowsOneKindOrTheOther) {
     EXPECT_EQ(table.Cell(2, 0), QString("Starts the press"));
     EXPECT_EQ(table.Cell(3, 0), QString());
     descriptions().setChecked(false);
+    EXPECT_EQ(table.Cell(1, 0), QString(" "));
     EXPECT_EQ(table.Cell(2, 0), QString());
     EXPECT_EQ(table.Cell(58, 0), QString());
     EXPECT_EQ(table.Cell(table.view->StatusGrid().Rows() - 1, 0), QString("*"));

@@ -1,0 +1,94 @@
+#include "app/StatusTableViews.h"
+
+#include "app/Application.h"
+#include "base/ApplicationFolder.h"
+#include "controls/grid/Grid.h"
+#include "statustable/views/frmStatusTable.h"
+#include <QMenu>
+
+namespace {
+QString ViewName() {
+    return QStringLiteral("frmStatusTable");
+}
+} // namespace
+
+StatusTableViews::StatusTableViews(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
+                                   WaitJobs& jobs, JobRunner& runner, frmMDIMain& window)
+    : window_(window) {
+    window_.Children().Register(ViewName(), [this, platform, &link, &loops, &jobs, &runner] {
+        return MakeView(platform, link, loops, jobs, runner);
+    });
+    connect(&window_.Children(), &MdiChildren::ActiveChanged, this,
+            &StatusTableViews::FollowActiveView);
+    window_.Views().mayClose = [this] { return MayClose(); };
+    RegisterCommands();
+}
+
+StatusTableViews::~StatusTableViews() {
+    window_.Views().mayClose = nullptr;
+}
+
+QWidget* StatusTableViews::MakeView(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
+                                    WaitJobs& jobs, JobRunner& runner) {
+    view_ = new frmStatusTable(
+        {link, window_.Mode(), platform.dialogs, loops, runner, *this, platform.folder.Root()});
+    view_->RegisterJobs(jobs);
+    return view_;
+}
+
+void StatusTableViews::RegisterCommands() {
+    CommandSurface& commands = window_.Commands();
+    commands.Handle(QStringLiteral("mnuToolsStatusTable"), [this] {
+        window_.Children().Show(ViewName());
+        if (view_)
+            view_->StatusGrid().setFocus();
+    });
+    const auto handle = [&](const char* entry, void (frmStatusTable::*operation)()) {
+        commands.Handle(QLatin1String(entry), [this, operation] {
+            if (view_)
+                (view_->*operation)();
+        });
+    };
+    handle("mnuStatusTableItem(0)", &frmStatusTable::StatusTableCopyClip);
+    handle("mnuStatusTableItem(4)", &frmStatusTable::SelectStatusTableProgram);
+    handle("mnuStatusTableItem(6)", &frmStatusTable::OpenStatusTable);
+    handle("mnuStatusTableItem(7)", &frmStatusTable::NewStatusTable);
+    handle("mnuStatusTableItem(9)", &frmStatusTable::SaveStatusTable);
+    handle("mnuStatusTableItem(10)", &frmStatusTable::SaveStatusTableAs);
+    handle("mnuEditCopy", &frmStatusTable::StatusTableCopyClip);
+}
+
+void StatusTableViews::FollowActiveView() {
+    const bool active = window_.Children().ActiveName() == ViewName();
+    if (!view_ || active == active_)
+        return;
+    active_ = active;
+    if (active)
+        view_->Activate();
+    else
+        view_->Deactivate();
+}
+
+bool StatusTableViews::MayClose() {
+    return !view_ || view_->MayClose();
+}
+
+QString StatusTableViews::SelectedProgramPath() const {
+    return window_.SelectedProgramPath();
+}
+
+// Which entries show follows from the view that is active.
+void StatusTableViews::ShowTableCommands(bool) {
+    window_.RefreshCommandState();
+}
+
+void StatusTableViews::HideTableMenus() {
+    window_.RefreshCommandState();
+}
+
+void StatusTableViews::PopUpTableMenu(const QPoint& place) {
+    window_.Commands().Menu(QStringLiteral("mnuStatusTable"))->popup(place);
+}
+
+// Nothing is printed yet: the entry that would ask for the printer has no handler.
+void StatusTableViews::UsePrinter(const PrinterChoice&) {}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "statustable/views/StatusTableHost.h"
+#include <QObject>
+#include <QPointer>
+
+class frmMDIMain;
+class frmStatusTable;
+class JobRunner;
+class RSComm;
+class ViewLoopRunner;
+class WaitJobs;
+struct Platform;
+
+/// The status table, made at its first use and joined to the main window: its menu, its activation
+/// and the question about unsaved changes at the end.
+class StatusTableViews : public QObject, private StatusTableHost {
+    Q_OBJECT
+public:
+    /// All must outlive the object.
+    StatusTableViews(const Platform& platform, RSComm& link, ViewLoopRunner& loops, WaitJobs& jobs,
+                     JobRunner& runner, frmMDIMain& window);
+    ~StatusTableViews() override;
+
+private:
+    QWidget* MakeView(const Platform& platform, RSComm& link, ViewLoopRunner& loops, WaitJobs& jobs,
+                      JobRunner& runner);
+    void RegisterCommands();
+    void FollowActiveView();
+    bool MayClose();
+
+    // StatusTableHost
+    QString SelectedProgramPath() const override;
+    void ShowTableCommands(bool shown) override;
+    void HideTableMenus() override;
+    void PopUpTableMenu(const QPoint& place) override;
+    void UsePrinter(const PrinterChoice& choice) override;
+
+    frmMDIMain& window_;
+    QPointer<frmStatusTable> view_;
+    bool active_ = false;
+};

@@ -1,0 +1,71 @@
+#include "app/Application.h"
+#include "base/ApplicationFolder.h"
+#include "base/Drives.h"
+#include "base/port/SerialMSComm.h"
+#include "controls/PaintedBusyDisplay.h"
+#include "controls/QtDialogs.h"
+#include "tour/BoardProcess.h"
+#include "tour/MainJobTour.h"
+#include "tour/TourGuide.h"
+#include "tour/TourSetting.h"
+#include <cstdio>
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace {
+QPalette DarkPalette() {
+    QPalette palette(QColor(0x2d, 0x2f, 0x33), QColor(0x24, 0x26, 0x2a));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb0));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+int RunTour(const QString& output) {
+    const TourSetting setting(output + QLatin1String("/app"));
+    BoardProcess board(QCoreApplication::applicationDirPath() + QLatin1String("/halden-board"),
+                       setting.PortLink());
+    if (!setting.IsReady() || !board.IsRunning()) {
+        std::fputs("The tour FAILED: its folder or the simulated board is not there.\n", stdout);
+        return 1;
+    }
+    const ApplicationFolder folder(setting.ApplicationFolder());
+    SystemClock clock;
+    QtDialogs dialogs;
+    PaintedBusyDisplay busy;
+    SystemDrives drives;
+    SerialMSComm port(clock, folder);
+    Application application(
+        {clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
+    application.Start();
+    TourGuide guide(application.MainWindow(), output);
+    AddMainJob(guide, application.MainWindow(), board);
+    guide.Start();
+    return QApplication::exec();
+}
+} // namespace
+
+namespace {
+// Without a display the tour has a screen of 1280 x 800 pixels, as small as the program is used on.
+void ChooseScreen() {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (platform == "offscreen")
+        qputenv("QT_QPA_PLATFORM",
+                "offscreen:configfile=" QUENTOR_SOURCE_FOLDER "/tests/tour/screen.json");
+}
+} // namespace
+
+/// quentor-tour FOLDER [--dark]: pictures and transcript go to FOLDER.
+int main(int argc, char** argv) {
+    ChooseScreen();
+    QApplication qt(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (arguments.contains(QLatin1String("--dark")))
+        QApplication::setPalette(DarkPalette());
+    if (arguments.size() < 2) {
+        std::fputs("quentor-tour FOLDER [--dark]\n", stderr);
+        return 2;
+    }
+    return RunTour(arguments.at(1));
+}
