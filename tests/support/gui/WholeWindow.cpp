@@ -47,6 +47,8 @@ Drive ScriptedDrives::At(const QString& root) const {
     drive.root = root;
     drive.letter = root;
     drive.isReady = !notReady.contains(root);
+    drive.type = DriveType::Fixed;
+    drive.availableSpace = availableSpace;
     return drive;
 }
 

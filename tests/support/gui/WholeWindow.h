@@ -27,6 +27,7 @@ public:
 
     QStringList roots = {QStringLiteral("/")};
     QSet<QString> notReady;
+    qint64 availableSpace = 1000000000; ///< bytes, on every drive
 };
 
 /// The whole program on doubles: a temporary application folder with a support folder, a folder of
