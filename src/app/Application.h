@@ -7,6 +7,7 @@
 #include <memory>
 
 class StatusTableViews;
+class TargetBoardViews;
 class TransferViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
@@ -38,12 +39,14 @@ public:
     ViewLoopRunner& Loops() { return loops_; }
 
 private:
-    void RegisterViews(const Platform& platform);
+    void RegisterViews();
 
+    const Platform platform_;
     FileSystem files_;
     RSComm link_;
     ViewLoopRunner loops_;
     frmMDIMain window_;
     std::unique_ptr<TransferViews> transfers_;
     std::unique_ptr<StatusTableViews> statusTable_;
+    std::unique_ptr<TargetBoardViews> targetBoard_;
 };
