@@ -2,6 +2,8 @@
 #include "base/ApplicationFolder.h"
 #include "base/Drives.h"
 #include "base/port/SerialMSComm.h"
+#include "base/port/SystemSerialPorts.h"
+#include "base/ProcessStart.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
 #include "tour/BoardProcess.h"
@@ -35,8 +37,10 @@ int RunTour(const QString& output) {
     PaintedBusyDisplay busy;
     SystemDrives drives;
     SerialMSComm port(clock, folder);
+    const SystemSerialPorts ports(folder);
+    SystemProcessStart tools;
     Application application(
-        {clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
+        {clock, dialogs, busy, port, folder, drives, ports, tools, [] { QApplication::exit(); }});
     application.Start();
     TourGuide guide(application.MainWindow(), output);
     AddMainJob(guide, application.MainWindow(), board);
