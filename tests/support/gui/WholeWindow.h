@@ -3,17 +3,15 @@
 #include "app/Application.h"
 #include "base/ApplicationFolder.h"
 #include "base/Drives.h"
-#include "base/ProcessStart.h"
-#include "base/RunTimeError.h"
-#include "base/SerialPorts.h"
 #include "board/Line.h"
 #include "board/SimulatedBoard.h"
 #include "support/gui/WatchedPort.h"
+#include "support/RecordedStarts.h"
 #include "support/ScriptedDialogs.h"
+#include "support/ScriptedSerialPorts.h"
 #include "support/VirtualClock.h"
 #include <gtest/gtest.h>
 #include <memory>
-#include <QMap>
 #include <QSet>
 #include <QTemporaryDir>
 
@@ -29,31 +27,6 @@ public:
 
     QStringList roots = {QStringLiteral("/")};
     QSet<QString> notReady;
-};
-
-/// Ports that a test hands in.
-class ScriptedSerialPorts final : public SerialPorts {
-public:
-    std::vector<FoundPort> Found() const override { return found; }
-    PortBehind Behind(int number) const override { return behind.value(number); }
-
-    std::vector<FoundPort> found;
-    QMap<int, PortBehind> behind;
-};
-
-/// Starts of other programs, kept instead of done.
-class RecordedStarts final : public ProcessStart {
-public:
-    void Shell(const QString& command, int windowStyle) override {
-        commands.append(command);
-        styles.append(windowStyle);
-        if (fails)
-            throw RunTimeError(ErrorNumber::FileNotFound);
-    }
-
-    QStringList commands;
-    QList<int> styles;
-    bool fails = false;
 };
 
 /// The whole program on doubles: a temporary application folder with a support folder, a folder of
