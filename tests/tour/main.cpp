@@ -7,7 +7,10 @@
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
 #include "tour/BoardProcess.h"
+#include "tour/DataTransferTour.h"
 #include "tour/MainJobTour.h"
+#include "tour/StatusTableTour.h"
+#include "tour/TargetBoardTour.h"
 #include "tour/TourGuide.h"
 #include "tour/TourSetting.h"
 #include <cstdio>
@@ -44,6 +47,9 @@ int RunTour(const QString& output) {
     application.Start();
     TourGuide guide(application.MainWindow(), output);
     AddMainJob(guide, application.MainWindow(), board);
+    AddDataTransfers(guide, application.MainWindow(), board, setting);
+    AddStatusTable(guide, application.MainWindow(), board, setting);
+    AddTargetBoard(guide, application.MainWindow(), board);
     guide.Start();
     return QApplication::exec();
 }
@@ -62,6 +68,7 @@ void ChooseScreen() {
 /// quentor-tour FOLDER [--dark]: pictures and transcript go to FOLDER.
 int main(int argc, char** argv) {
     ChooseScreen();
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // the tour's hand knows Qt's own
     QApplication qt(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
