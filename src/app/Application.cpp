@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include "app/StatusTableViews.h"
+#include "app/TargetBoardViews.h"
 #include "app/TransferViews.h"
 #include "controls/ViewHelpers.h"
 #include "link/views/frmDownloadProg.h"
@@ -10,11 +11,11 @@
 #include "shell/frmNewFile.h"
 
 Application::Application(const Platform& platform)
-    : link_(platform.dialogs, platform.clock, platform.busy, platform.folder),
+    : platform_(platform), link_(platform.dialogs, platform.clock, platform.busy, platform.folder),
       loops_(BlockedByModalView),
       window_(ShellContext{link_, platform.port, platform.dialogs, platform.clock, platform.folder,
                            files_, fileOperations_, platform.drives, platform.endProgram}) {
-    RegisterViews(platform);
+    RegisterViews();
 }
 
 Application::~Application() = default;
@@ -25,29 +26,30 @@ void Application::Start() {
 
 // Each view joins here: a modal one as a function, a child of the main window as a factory, its
 // entries as handlers.
-void Application::RegisterViews(const Platform& platform) {
+void Application::RegisterViews() {
     window_.Views().frmDownloadProg = [this](qint16 mode) {
         frmDownloadProg view(link_, &window_);
         view.SetTransferMode(mode);
         view.exec();
     };
-    window_.Views().frmSetupComm = [this, platform] {
-        frmSetupComm view({link_, platform.port, platform.dialogs, platform.clock, platform.ports,
-                           platform.folder},
+    window_.Views().frmSetupComm = [this] {
+        frmSetupComm view({link_, platform_.port, platform_.dialogs, platform_.clock,
+                           platform_.ports, platform_.folder},
                           &window_);
         view.exec();
     };
-    RegisterSetViews(platform);
-    transfers_ = std::make_unique<TransferViews>(platform, link_, files_, window_);
-    statusTable_ = std::make_unique<StatusTableViews>(platform, link_, loops_, transfers_->Jobs(),
+    RegisterSetViews();
+    transfers_ = std::make_unique<TransferViews>(platform_, link_, files_, window_);
+    statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
+    targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
 }
 
-void Application::RegisterSetViews(const Platform& platform) {
-    const SetFiles context{link_,           platform.dialogs, files_,
-                           fileOperations_, platform.drives,  window_.Browser()};
-    window_.Views().frmNewFile = [this, context, platform](qint16 mode) {
-        frmNewFile view(context, platform.tools, platform.folder, &window_);
+void Application::RegisterSetViews() {
+    const SetFiles context{link_,           platform_.dialogs, files_,
+                           fileOperations_, platform_.drives,  window_.Browser()};
+    window_.Views().frmNewFile = [this, context](qint16 mode) {
+        frmNewFile view(context, platform_.tools, platform_.folder, &window_);
         view.SetNewFileMode(mode);
         view.exec();
     };

@@ -10,6 +10,7 @@
 class ProcessStart;
 class SerialPorts;
 class StatusTableViews;
+class TargetBoardViews;
 class TransferViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
@@ -43,9 +44,10 @@ public:
     ViewLoopRunner& Loops() { return loops_; }
 
 private:
-    void RegisterViews(const Platform& platform);
-    void RegisterSetViews(const Platform& platform);
+    void RegisterViews();
+    void RegisterSetViews();
 
+    const Platform platform_;
     FileSystem files_;
     DiskFileOperations fileOperations_;
     RSComm link_;
@@ -53,4 +55,5 @@ private:
     frmMDIMain window_;
     std::unique_ptr<TransferViews> transfers_;
     std::unique_ptr<StatusTableViews> statusTable_;
+    std::unique_ptr<TargetBoardViews> targetBoard_;
 };

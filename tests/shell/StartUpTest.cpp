@@ -112,9 +112,9 @@ TEST_F(StartUp, AnUnreadableRecentFileStopsWithABoxAndTheWindowStays) {
     EXPECT_FALSE(Window().Timer().Enabled());
 }
 
-TEST_F(StartUp, TheBrowserIsActiveAndBelowEverything) {
+TEST_F(StartUp, TheStatusTableIsActiveOverTheLoadedBrowser) {
     Start();
-    EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmMain");
+    EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmStatusTable");
     EXPECT_TRUE(Window().Browser().gFormLoaded);
-    EXPECT_EQ(gPrintContext, PrintContext::Browser);
+    EXPECT_EQ(gPrintContext, PrintContext::StatusTable);
 }

@@ -90,19 +90,23 @@ void TourGuide::AnswerBox(const QString& title, const QString& button, const QSt
                           double patience) {
     const auto isUp = [title] { return OpenBox() && OpenBox()->windowTitle() == title; };
     if (!picture.isEmpty())
-        Stop(QStringLiteral("box \"%1\" is up").arg(title), isUp,
-             [this, picture] { TakePicture(picture); }, patience);
-    Stop(QStringLiteral("box \"%1\": press %2").arg(title, button), isUp, [this, button] {
-        QMessageBox* box = OpenBox();
-        Say(QStringLiteral("    says: ") + BoxText(*box));
-        QPushButton* found = FindButton(*box, button);
-        if (!found) {
-            Say(QStringLiteral("FAILED: the box has no such button"));
-            Finish(1);
-            return;
-        }
-        QTest::mouseClick(found, Qt::LeftButton);
-    }, patience);
+        Stop(
+            QStringLiteral("box \"%1\" is up").arg(title), isUp,
+            [this, picture] { TakePicture(picture); }, patience);
+    Stop(
+        QStringLiteral("box \"%1\": press %2").arg(title, button), isUp,
+        [this, button] {
+            QMessageBox* box = OpenBox();
+            Say(QStringLiteral("    says: ") + BoxText(*box));
+            QPushButton* found = FindButton(*box, button);
+            if (!found) {
+                Say(QStringLiteral("FAILED: the box has no such button"));
+                Finish(1);
+                return;
+            }
+            QTest::mouseClick(found, Qt::LeftButton);
+        },
+        patience);
 }
 
 QMessageBox* TourGuide::OpenBox() {
