@@ -28,7 +28,6 @@ struct ModalViews {
     std::function<void()> frmCopyFile;
     std::function<void()> frmSetupComm;
     std::function<void()> frmDataXfr; ///< asks for the range, runs the transfer
-    std::function<void(const QString& hdnFile)> frmTargetBoard;
     std::function<void(const QString& hdnFile)> frmEditDoc;
     std::function<void(qint16 mode)> frmViewResults; ///< 0 compile errors, 1 a new search, 2 as is
     std::function<void()> frmAbout;

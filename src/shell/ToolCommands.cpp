@@ -85,13 +85,6 @@ void ToolCommands::mnuViewCompileErrors_Click() {
                                 QStringLiteral("View Errors"));
 }
 
-void ToolCommands::ShowTargetBoard(bool BypassOpen) {
-    bool ok = false;
-    context_.programs.OpenProgramDialog(BypassOpen, false, ok);
-    if (ok)
-        context_.views.frmTargetBoard(gHdnFile);
-}
-
 void ToolCommands::OpenButton() {
     const bool selected = context_.files.FileExists(gHdnFile);
     context_.programs.SpawnRequest(openForEditing, selected);

@@ -42,8 +42,6 @@ public:
     void mnuEditSysConfig_Click();
     void mnuEditVarDoc_Click();
     void mnuViewCompileErrors_Click();
-    /// The view of one board, on a set that is asked for unless `BypassOpen`.
-    void ShowTargetBoard(bool BypassOpen);
     /// Toolbar button 3: gHdnFile was taken from the selection already.
     void OpenButton();
     /// Toolbar button 4: prints what gPrintContext names.

@@ -69,10 +69,6 @@ void frmMDIMain::TakeViews() {
     }
     if (views_.frmSetupComm)
         Handle("mnuEditCommPort", [this] { views_.frmSetupComm(); });
-    if (views_.frmTargetBoard) {
-        Handle("mnuViewTargetBoardStatus", [this] { tools_->ShowTargetBoard(false); });
-        Handle("PLC", [this] { tools_->ShowTargetBoard(true); });
-    }
     if (views_.frmAbout)
         Handle("mnuHelpAbout", [this] { views_.frmAbout(); });
     if (views_.helpTopics)

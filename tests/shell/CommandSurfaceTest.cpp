@@ -59,7 +59,7 @@ const std::vector<Row> viewRows = {
     {"mnuViewOnline", "O&nline Data", "F3", Enabled},
     {"mnuViewOffline", "O&ffline Data", "F4", Enabled},
     {"mnuViewSep1", "", "", Enabled},
-    {"mnuViewTargetBoardStatus", "Target &Board Interface", "F5", Disabled},
+    {"mnuViewTargetBoardStatus", "Target &Board Interface", "F5", Enabled},
     {"mnuViewSep2", "", "", Enabled},
     {"mnuViewCompileErrors", "&Compile Errors", "", Disabled},
     {"mnuViewSearchResults", "Search &Results", "", Later},

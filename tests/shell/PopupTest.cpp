@@ -12,10 +12,6 @@ protected:
     void SetUp() override {
         Start();
         GoToSets();
-        for (const char* name : {"mnuFileListPopupSaveAs", "mnuFileListPopupCompile",
-                                 "mnuFileListPopupSearch", "mnuFileListPopupDownloadToPLS",
-                                 "mnuFileListPopupUploadFromPLS", "mnuFileListPopupRename"})
-            Window().Commands().Handle(name, [] {});
     }
     QMenu* Menu() { return Window().Commands().Menu("mnuFileListPopup"); }
     /// A right click as the window system sends it: the press, then the wish for the menu.
@@ -27,6 +23,10 @@ protected:
                                 list->viewport()->mapToGlobal(position));
         QCoreApplication::sendEvent(list->viewport(), &event);
     }
+    void AddPLSRoute() {
+        for (const char* name : {"mnuFileListPopupDownloadToPLS", "mnuFileListPopupUploadFromPLS"})
+            Window().Commands().Handle(name, [] {});
+    }
     void ExpectEnabled(const char* name, bool enabled) {
         EXPECT_EQ(Entry(name)->isEnabled(), enabled) << name;
     }
@@ -34,6 +34,7 @@ protected:
 } // namespace
 
 TEST_F(Popup, ForAPLCSetOffersTheProgram) {
+    AddPLSRoute();
     RightClick("PUMP.hdn");
     EXPECT_TRUE(Menu()->isVisible());
     ExpectEnabled("mnuFileListPopupDownloadProg", true);
@@ -44,6 +45,7 @@ TEST_F(Popup, ForAPLCSetOffersTheProgram) {
 }
 
 TEST_F(Popup, ForAPLSSetOffersTheConfiguration) {
+    AddPLSRoute();
     RightClick("CAMS.hdn");
     EXPECT_TRUE(Menu()->isVisible());
     ExpectEnabled("mnuFileListPopupDownloadProg", false);
@@ -60,15 +62,14 @@ TEST_F(Popup, TakesTheSelectionAsTheSetInUse) {
 }
 
 TEST_F(Popup, EntriesWithoutTheirViewAreDisabled) {
-    RightClick("PUMP.hdn");
-    ExpectEnabled("mnuFileListPopupDelete", false);
-    Window().Commands().Handle("mnuFileListPopupDelete", [] {});
-    ExpectEnabled("mnuFileListPopupDelete", true);
+    RightClick("CAMS.hdn");
+    ExpectEnabled("mnuFileListPopupDownloadToPLS", false);
+    AddPLSRoute();
+    ExpectEnabled("mnuFileListPopupDownloadToPLS", true);
 }
 
 TEST_F(Popup, TheDeleteKeyRunsDelete) {
     ClickSet("PUMP.hdn");
-    QTest::keyClick(Find<FileList>("filFileList"), Qt::Key_Delete); // no handler: nothing
     int deletes = 0;
     Window().Commands().Handle("mnuFileListPopupDelete", [&] { ++deletes; });
     QTest::keyClick(Find<FileList>("filFileList"), Qt::Key_Delete);

@@ -85,7 +85,7 @@ TEST_F(SetCommandsTest, ReadOnlyFileIsReportedAndNothingIsDeleted) {
 TEST_F(SetCommandsTest, RenameGivesEveryFileTheNewNameAndSelectsIt) {
     ExpectName("BELT");
     Entry("mnuFileListPopupRename")->trigger();
-    EXPECT_EQ(Files(), "BELT.HEX BELT.bak BELT.hdn BELT.lmn BELT.x07 CAMS.hdn CAMS.pcf");
+    EXPECT_EQ(Files(), "BELT.bak BELT.hdn BELT.HEX BELT.lmn BELT.x07 CAMS.hdn CAMS.pcf");
     EXPECT_EQ(gHdnFile, SetPath("BELT.hdn"));
     EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [BELT]");
 }

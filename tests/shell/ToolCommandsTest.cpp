@@ -14,14 +14,12 @@ protected:
         ClickSet("PUMP.hdn");
         Window().Views().frmViewResults = [this](qint16 mode) { resultModes_ << mode; };
         Window().Views().frmEditDoc = [this](const QString& path) { documented_ << path; };
-        Window().Views().frmTargetBoard = [this](const QString& path) { boards_ << path; };
         Window().TakeViews();
     }
     void Run(const char* name) { Window().Commands().Run(QString::fromLatin1(name)); }
 
     QList<qint16> resultModes_;
     QStringList documented_;
-    QStringList boards_;
 };
 } // namespace
 
@@ -94,14 +92,6 @@ TEST_F(Tools, DocumentationOfALimitSwitchSetIsRefused) {
     dialogs_.ExpectOpen(SetPath("PUMP.hdn"));
     Run("mnuEditVarDoc");
     EXPECT_EQ(documented_, QStringList{SetPath("PUMP.hdn")});
-}
-
-TEST_F(Tools, TargetBoardOpensOnTheChosenOrTheSelectedSet) {
-    dialogs_.ExpectOpen(SetPath("CAMS.hdn"));
-    Entry("mnuViewTargetBoardStatus")->trigger();
-    EXPECT_EQ(Link().TargetboardType(), 55);
-    Entry("PLC")->trigger();
-    EXPECT_EQ(boards_, (QStringList{SetPath("CAMS.hdn"), Window().SelectedProgramPath()}));
 }
 
 TEST_F(Tools, RequestsToTheToolsStartNothing) {

@@ -91,7 +91,7 @@ TEST_F(Upload, UploadedImageDumpsBackUnchanged) {
     UploadAs("FETCHED");
     for (int place = 0; place < imageLength; ++place)
         Poke(imageStart + place, 0);
-    dialogs_.ExpectBoxTitled("Program Download - [PRESS1]", MsgAnswer::Yes);
+    dialogs_.ExpectBoxTitled("Program Download - [PRESS1  ]", MsgAnswer::Yes);
     dialogs_.ExpectBox("Program Download Complete!", 64, "Program Download", MsgAnswer::Ok);
     Entry("mnuFileListPopupDownloadProg")->trigger();
     EXPECT_TRUE(Image() == before);

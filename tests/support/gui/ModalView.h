@@ -6,12 +6,12 @@
 #include <QTimer>
 #include <QWidget>
 
-/// Acts in the modal view of this object name as soon as it is up; to be called before the command
-/// that shows it. A view that does not come within some hundred turns fails the test.
+/// Acts in the modal view of this object name as soon as it is up and active; to be called before
+/// the command that shows it. A view that does not come within some hundred turns fails the test.
 inline void InModalView(const QString& name, std::function<void(QWidget&)> act, int turns = 500) {
     QTimer::singleShot(0, qApp, [name, act = std::move(act), turns] {
         QWidget* view = QApplication::activeModalWidget();
-        if (view && view->objectName() == name)
+        if (view && view->objectName() == name && view->isActiveWindow())
             act(*view);
         else if (turns > 0)
             InModalView(name, act, turns - 1);
