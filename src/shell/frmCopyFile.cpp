@@ -45,7 +45,7 @@ void frmCopyFile::BuildForm() {
     source_ =
         AddEnd(*grid, {tr("From folder:"), QStringLiteral("lblSource"), QStringLiteral("txtSource"),
                        QStringLiteral("cmdBrowseSource"), tr("&Browse...")});
-    grid->setRowMinimumHeight(grid->rowCount(), grid->verticalSpacing() * 2);
+    grid->setRowMinimumHeight(grid->rowCount(), fontMetrics().height() / 2);
     destination_ = AddEnd(*grid, {tr("To folder:"), QStringLiteral("lblDestination"),
                                   QStringLiteral("txtDestination"),
                                   QStringLiteral("cmdDestination"), tr("&Destination...")});
