@@ -3,17 +3,8 @@
 #include "base/FileSystem.h"
 #include "base/NumberReader.h"
 #include "base/TextFile.h"
+#include "jobs/DataImage.h"
 #include "link/MarkHex.h"
-#include "link/TargetBoards.h"
-
-namespace {
-constexpr int firstOfShortImage = 70; // a short image holds the addresses 70 to 219
-
-int FirstAddress(qint16 board) {
-    const bool wholeMemory = board == BoardIndex::K2012 || board == BoardIndex::R6500PLC;
-    return wholeMemory ? 0 : firstOfShortImage;
-}
-} // namespace
 
 int OfflineData::ByteAt(qint64 address) const {
     return address >= 0 && address < static_cast<qint64>(bytes_.size()) ? bytes_[address] : 0;
@@ -23,7 +14,7 @@ void OfflineData::Fill(const QString& text, int first) {
     bytes_.assign(size, 0);
     const QStringView pairs(text);
     int address = first;
-    for (qsizetype at = 0; at < pairs.size() && address < size; at += 2, ++address)
+    for (qsizetype at = 0; at + 1 < pairs.size() && address < size; at += 2, ++address)
         bytes_[address] = static_cast<std::uint8_t>(HexNumberValue(pairs.mid(at, 2)));
 }
 
@@ -34,6 +25,6 @@ OfflineDataState ReadOfflineData(const QString& path, qint16 board, OfflineData&
     if (reader.AtEnd())
         return OfflineDataState::Empty;
     QString text = reader.InputItem();
-    data.Fill(MarkHex2HEX(text), FirstAddress(board));
+    data.Fill(MarkHex2HEX(text), DataImageOf(board).file.first);
     return OfflineDataState::Loaded;
 }

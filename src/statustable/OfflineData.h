@@ -13,7 +13,8 @@ public:
     /// The byte at a board address; 0 where the data has none.
     int ByteAt(qint64 address) const;
     /// Takes the pairs of hexadecimal digits of `text` from the address `first` on. Pairs beyond
-    /// the last address are dropped; bytes that the text does not reach are 0.
+    /// the last address are dropped, and so is a last digit without its partner; bytes that the
+    /// text does not reach are 0.
     void Fill(const QString& text, int first);
 
 private:

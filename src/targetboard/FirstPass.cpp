@@ -72,12 +72,14 @@ void FirstPass::ShowDescription(int position, const QString& file) {
         shown_.txtTargetBoard[Index(position)] = *description;
 }
 
+// A read that failed gives 0, which is no value of the board.
 void FirstPass::ReadSlotAgain() {
     if (!shown_.controls.CoCpuSlotVisible() || link_.CommError())
         return;
     constexpr int slot = FaultPosition::CoCpuSlot;
     const QString value = link_.RSRead(QString::fromUtf16(faultAddresses[Index(slot)]));
-    shown_.lblTargetBoard[Index(slot)] = SlotLabelText(value);
+    if (!link_.CommError())
+        shown_.lblTargetBoard[Index(slot)] = SlotLabelText(value);
 }
 
 void FirstPass::ShowAdviceAndCommErrors() {
@@ -92,5 +94,6 @@ void FirstPass::ReadIdent(int offset) {
     if (link_.CommError())
         return;
     const QString value = link_.RSRead(BoardIdentAddress(offset));
-    TakeIdentByte(shown_.lblRevIdentInPLC, offset, value);
+    if (!link_.CommError())
+        TakeIdentByte(shown_.lblRevIdentInPLC, offset, value);
 }

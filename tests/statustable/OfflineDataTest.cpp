@@ -47,6 +47,13 @@ TEST(OfflineData, ALongerLineEndsAtTheLastEntry) {
     EXPECT_EQ(data.ByteAt(8192), 0x11);
 }
 
+TEST(OfflineData, ALastDigitWithoutItsPartnerIsNoByte) {
+    OfflineData data;
+    data.Fill("FF1", 100);
+    EXPECT_EQ(data.ByteAt(100), 255);
+    EXPECT_EQ(data.ByteAt(101), 0);
+}
+
 TEST(OfflineData, AnewFillsAll) {
     OfflineData data;
     data.Fill("FFFF", 0);

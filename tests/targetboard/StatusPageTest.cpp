@@ -228,11 +228,24 @@ TEST_F(StatusPage, ACutLineWhileTheFaultsAreReadShowsTheCableAdviceThenOffline) 
 
 TEST_F(StatusPage, ACutLineWhileTheIdentIsReadGoesOffline) {
     Open();
+    for (int i = 0; i < 8; ++i)
+        Poke(61424 + i, 'A' + i);
     Steps(2 + 9 + 3);
     CutLine();
     Turns(1);
+    EXPECT_EQ(Shown().lblRevIdentInPLC[0], "ABC"); // what was not read is not invented
     EXPECT_FALSE(Shown().controls.lblRevIdentInPLC());
     EXPECT_TRUE(Shown().controls.cmdGoOnline());
+}
+
+TEST_F(StatusPageK2012, ACutLineWhileTheSlotIsReadAgainKeepsTheSlot) {
+    Poke(8175, 3);
+    Open();
+    Steps(2 + 7); // online, the turn, the six addresses and the fault file
+    CutLine();
+    Steps(1);
+    EXPECT_TRUE(link.CommError());
+    EXPECT_EQ(Label(2), "CO-CPU Slot: 3");
 }
 
 TEST_F(StatusPage, GoOnlineBringsTheBoardBack) {

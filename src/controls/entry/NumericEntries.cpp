@@ -11,16 +11,20 @@
 #include <utility>
 
 namespace {
-bool IsWithinProgram(const QEvent& event) {
-    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+const QFocusEvent& Focus(const QEvent& event) {
+    return static_cast<const QFocusEvent&>(event);
+}
+
+bool IsByMouse(const QFocusEvent& event) {
+    return event.reason() == Qt::MouseFocusReason;
+}
+} // namespace
+
+bool IsWithinProgram(const QFocusEvent& event) {
+    const Qt::FocusReason reason = event.reason();
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
            reason != Qt::MenuBarFocusReason;
 }
-
-bool IsByMouse(const QEvent& event) {
-    return static_cast<const QFocusEvent&>(event).reason() == Qt::MouseFocusReason;
-}
-} // namespace
 
 NumericEntries::NumericEntries(int count, Dialogs& dialogs, QWidget& cmdDefault, TitleOf titleOf,
                                QObject* parent)
@@ -54,11 +58,11 @@ bool NumericEntries::eventFilter(QObject* watched, QEvent* event) {
         return false;
     switch (event->type()) {
     case QEvent::FocusIn:
-        if (IsWithinProgram(*event))
-            GotFocus(*index, IsByMouse(*event));
+        if (IsWithinProgram(Focus(*event)))
+            GotFocus(*index, IsByMouse(Focus(*event)));
         return false;
     case QEvent::FocusOut:
-        if (IsWithinProgram(*event))
+        if (IsWithinProgram(Focus(*event)))
             LostFocus(*index);
         return false;
     case QEvent::KeyPress:

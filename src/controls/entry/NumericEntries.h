@@ -9,6 +9,7 @@
 
 class Dialogs;
 class EntryUpDown;
+class QFocusEvent;
 class QLineEdit;
 class QWidget;
 
@@ -74,6 +75,10 @@ private:
     std::optional<int> refused_;
     bool leavesUnchecked_ = false;
 };
+
+/// Whether a change of the focus is one between the controls of the program: another window in
+/// front or a menu is no leaving of an entry.
+bool IsWithinProgram(const QFocusEvent& event);
 
 class QPushButton;
 /// Makes the hidden default button of a view: no part of the tab order and too small to be seen,

@@ -3,9 +3,10 @@
 #include "base/Dialogs.h"
 #include "base/DoEvents.h"
 #include "base/FileSystem.h"
+#include "controls/entry/EntryUpDown.h"
+#include "controls/entry/NumericEntries.h"
 #include "controls/ViewHelpers.h"
 #include "jobs/JobRunner.h"
-#include "jobs/views/UpDown.h"
 #include "jobs/WaitJobs.h"
 #include "session/Globals.h"
 #include <QFocusEvent>
@@ -28,10 +29,9 @@ bool IsReturn(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-// Another window in front is no leaving of the entry.
-bool LeavesEntry(const QFocusEvent& event) {
-    return event.reason() != Qt::ActiveWindowFocusReason &&
-           event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason;
+// What a step key changes the number by; 0 for any other key.
+int StepOf(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Up ? 1 : event.key() == Qt::Key_Down ? -1 : 0;
 }
 } // namespace
 
@@ -76,7 +76,7 @@ void frmDataXfr::AddEntries(QVBoxLayout& form) {
         entry->setObjectName(Indexed("txtRange", index));
         entry->installEventFilter(this);
         label->setBuddy(entry);
-        auto* arrows = new UpDown(*entry, this);
+        auto* arrows = new EntryUpDown(*entry, this);
         arrows->setObjectName(Indexed("updRange", index));
         for (QWidget* widget : {static_cast<QWidget*>(label), static_cast<QWidget*>(entry),
                                 static_cast<QWidget*>(arrows)})
@@ -123,8 +123,7 @@ void frmDataXfr::optRange_Click(int index) {
         updRange_.at(entry)->setEnabled(range);
         if (!range)
             txtRange_.at(entry)->clear();
-        updRange_.at(entry)->SetMin(standard_.first);
-        updRange_.at(entry)->SetMax(standard_.last);
+        updRange_.at(entry)->SetRange(standard_.first, standard_.last);
     }
     if (!range)
         return;
@@ -137,15 +136,25 @@ bool frmDataXfr::eventFilter(QObject* watched, QEvent* event) {
     const std::optional<int> entry = EntryOf(watched);
     if (!entry)
         return QDialog::eventFilter(watched, event);
-    if (event->type() == QEvent::KeyPress && IsReturn(*static_cast<QKeyEvent*>(event))) {
-        focusNextPrevChild(true);
+    if (event->type() == QEvent::KeyPress && TakesKey(*entry, *static_cast<QKeyEvent*>(event)))
         return true;
-    }
     if (event->type() == QEvent::FocusIn)
         SelectAllText(*txtRange_.at(*entry));
-    if (event->type() == QEvent::FocusOut && LeavesEntry(*static_cast<QFocusEvent*>(event)))
+    if (event->type() == QEvent::FocusOut && IsWithinProgram(*static_cast<QFocusEvent*>(event)))
         txtRange_LostFocus(*entry);
     return QDialog::eventFilter(watched, event);
+}
+
+// Return moves on like Tab, the up and down keys step like the arrows.
+bool frmDataXfr::TakesKey(int entry, const QKeyEvent& event) {
+    const int step = StepOf(event);
+    if (step != 0)
+        updRange_.at(entry)->Step(step);
+    else if (IsReturn(event))
+        focusNextPrevChild(true);
+    else
+        return false;
+    return true;
 }
 
 // No box is shown in the middle of a change of the focus: the entry is looked at right after it.

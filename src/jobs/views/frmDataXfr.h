@@ -6,6 +6,7 @@
 #include <QDialog>
 
 class Dialogs;
+class EntryUpDown;
 class FileSystem;
 class JobRunner;
 class QLabel;
@@ -13,7 +14,6 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QVBoxLayout;
-class UpDown;
 
 /// Modal dialog in which the user chooses what of the board's data is moved: the standard range
 /// or one of his own. OK runs job 4. It reads gXferMode, gXferBoard and gHdnFile when it is made
@@ -38,6 +38,7 @@ private:
     void AddEntries(QVBoxLayout& form);
     void AddButtons(QVBoxLayout& form);
     std::optional<int> EntryOf(const QObject* object) const;
+    bool TakesKey(int entry, const QKeyEvent& event);
     void optRange_Click(int index);
     void txtRange_LostFocus(int index);
     void CheckLeftEntry();
@@ -52,7 +53,7 @@ private:
     std::array<QRadioButton*, 2> optRange_{};
     std::array<QLabel*, 2> lblRange_{};
     std::array<QLineEdit*, 2> txtRange_{};
-    std::array<UpDown*, 2> updRange_{};
+    std::array<EntryUpDown*, 2> updRange_{};
     QPushButton* cmdOk_ = nullptr;
     QPushButton* cmdCancel_ = nullptr;
 

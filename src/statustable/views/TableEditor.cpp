@@ -44,7 +44,6 @@ void TableEditor::OnEscape() {
     if (editing_) {
         grid_.SetTextMatrix(grid_.Row(), grid_.Col(), savedText_);
         EndEdit();
-        state_.editingRow = 0; // nothing is typed any more: the value goes on changing
     }
     if (!std::exchange(escapeArmed_, !escapeArmed_))
         return;

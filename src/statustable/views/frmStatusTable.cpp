@@ -51,7 +51,11 @@ void frmStatusTable::Connect() {
             &frmStatusTable::SelectStatusTableProgram);
     connect(form_.cboTargetBoard, &QComboBox::currentIndexChanged, this,
             &frmStatusTable::ClickTargetBoard);
-    connect(form_.cboTargetBoard, &QComboBox::activated, this, &frmStatusTable::FocusGrid);
+    // The entry that is shown already counts too: "(none)" may stand for a board without an entry.
+    connect(form_.cboTargetBoard, &QComboBox::activated, this, [this](int entry) {
+        ClickTargetBoard(entry);
+        FocusGrid();
+    });
     connect(form_.chkViewNicNames, &QCheckBox::toggled, this, &frmStatusTable::ClickViewNicNames);
     connect(form_.chkViewDescriptions, &QCheckBox::toggled, this,
             &frmStatusTable::ClickViewDescriptions);

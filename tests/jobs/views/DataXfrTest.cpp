@@ -1,8 +1,8 @@
 #include "base/Dialogs.h"
 #include "base/FileSystem.h"
+#include "controls/entry/EntryUpDown.h"
 #include "jobs/JobRunner.h"
 #include "jobs/views/frmDataXfr.h"
-#include "jobs/views/UpDown.h"
 #include "session/Globals.h"
 #include "support/ScriptedDialogs.h"
 #include <gtest/gtest.h>
@@ -264,7 +264,7 @@ TEST_F(DataXfr, GivingUpTheRangeNeedsNoValidEntry) {
 TEST_F(DataXfr, ArrowsStepTheEntryWithinTheRange) {
     Open();
     ChooseRange();
-    auto* arrows = Child<UpDown>("updRange(0)");
+    auto* arrows = Child<EntryUpDown>("updRange(0)");
     QTest::mouseClick(arrows->findChild<QToolButton*>(QStringLiteral("up")), Qt::LeftButton);
     EXPECT_EQ(Text("txtRange(0)"), "71");
     for (int i = 0; i < 3; ++i)

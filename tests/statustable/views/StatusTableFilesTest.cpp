@@ -1,10 +1,12 @@
 #include "session/Globals.h"
 #include "TableUnderTest.h"
 #include <gtest/gtest.h>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGroupBox>
+#include <QTest>
 
 namespace {
 const QString question = QStringLiteral("Save Changes to File?");
@@ -83,6 +85,15 @@ TEST_F(StatusTableFiles, OfALimitSwitchBoardSelectsNoneAndKeepsItsIndex) {
     EXPECT_EQ(table.Find<QComboBox>("cboTargetBoard").currentText(), QString("(none)"));
     table.view->SaveStatusTable();
     EXPECT_EQ(table.files.Read("pls.tbl"), QByteArray(" 62 \r\nB100\r\n\r\n"));
+}
+
+TEST_F(StatusTableFiles, NoneChosenOverALimitSwitchBoardTakesItsIndexAway) {
+    Open(table.files.Write("pls.tbl", " 62 \r\nB100\r\n\r\n"));
+    auto& boards = table.Find<QComboBox>("cboTargetBoard");
+    boards.showPopup();
+    QTest::keyClick(boards.view(), Qt::Key_Return);
+    table.view->SaveStatusTable();
+    EXPECT_EQ(table.files.Read("pls.tbl"), QByteArray(" 0 \r\nB100\r\n\r\n"));
 }
 
 TEST_F(StatusTableFiles, OfMoreThan32767LinesTheRowsReadSoFarAreShown) {

@@ -78,6 +78,9 @@ TEST_F(StatusTableLive, ARowBeingTypedInKeepsItsTextWhileTheOthersGoOn) {
     EXPECT_EQ(table->Cell(3, 2), QString("201"));
     table->Press(Qt::Key_Escape);
     table->RunPasses();
+    EXPECT_EQ(table->Cell(2, 2), QString("0")); // the text from before the first key
+    table->Press(Qt::Key_Escape);
+    table->RunPasses();
     EXPECT_EQ(table->Cell(2, 2), QString("200"));
 }
 
