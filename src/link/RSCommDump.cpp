@@ -20,10 +20,6 @@ constexpr int modeAttempts = 3; // until the user is asked about a lost program 
 QString DumpTitle() {
     return QStringLiteral("Program Download");
 }
-
-QString InvalidProgram() {
-    return QStringLiteral("Currently Selected Program is Invalid.\r\n\r\nProgram Download Halted!");
-}
 } // namespace
 
 // A dump ends in one of three ways. Refused before anything is written: the machine runs on and
@@ -77,7 +73,7 @@ bool RSComm::DumpMayStart() {
         return false;
     }
     if (!validProgram_) {
-        dialogs_.MsgBox(InvalidProgram(), MsgStyle::Exclamation, DumpTitle());
+        dialogs_.MsgBox(InvalidProgramText(), MsgStyle::Exclamation, DumpTitle());
         return false;
     }
     return true;
@@ -121,7 +117,7 @@ std::optional<HexImage> RSComm::ImageToSend() {
     }
     if (!image.IsSendable()) {
         validProgram_ = false;
-        dialogs_.MsgBox(InvalidProgram(), MsgStyle::Exclamation, DumpTitle());
+        dialogs_.MsgBox(InvalidProgramText(), MsgStyle::Exclamation, DumpTitle());
         return std::nullopt;
     }
     return image;
