@@ -23,3 +23,7 @@ QString DumpQuestion(const ProgramIdent& onDisk, const QString& boardName,
     };
     return lines.join(QStringLiteral("\r\n"));
 }
+
+QString InvalidProgramText() {
+    return QStringLiteral("Currently Selected Program is Invalid.\r\n\r\nProgram Download Halted!");
+}

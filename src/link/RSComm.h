@@ -24,12 +24,13 @@ struct HexLine;
 constexpr int noReply = 9999;
 
 /// Steps into which the link can be put by a handshake: 0 none, 1 read, 2 write, 3 to 8 commands
-/// of limit switch boards.
+/// of limit switch boards, 9 program mode while a dump enters it. A time-out puts it to none.
 namespace LinkMode {
 constexpr int None = 0;
 constexpr int Read = 1;
 constexpr int Write = 2;
 constexpr int PLSReadWord = 4;
+constexpr int Program = 9;
 } // namespace LinkMode
 
 /// The one object through which every byte to or from a target board passes.

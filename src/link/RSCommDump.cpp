@@ -15,13 +15,10 @@ constexpr std::uint8_t programModeByte = 0x03;
 constexpr double dumpRequestTime = 0.1;  // seconds that the board needs to see the dump request
 constexpr double programStartTime = 2.0; // seconds until the board hears again after a dump
 constexpr int lowestPrintable = 32;
+constexpr int modeAttempts = 3; // until the user is asked about a lost program mode byte
 
 QString DumpTitle() {
     return QStringLiteral("Program Download");
-}
-
-QString InvalidProgram() {
-    return QStringLiteral("Currently Selected Program is Invalid.\r\n\r\nProgram Download Halted!");
 }
 } // namespace
 
@@ -76,7 +73,7 @@ bool RSComm::DumpMayStart() {
         return false;
     }
     if (!validProgram_) {
-        dialogs_.MsgBox(InvalidProgram(), MsgStyle::Exclamation, DumpTitle());
+        dialogs_.MsgBox(InvalidProgramText(), MsgStyle::Exclamation, DumpTitle());
         return false;
     }
     return true;
@@ -120,7 +117,7 @@ std::optional<HexImage> RSComm::ImageToSend() {
     }
     if (!image.IsSendable()) {
         validProgram_ = false;
-        dialogs_.MsgBox(InvalidProgram(), MsgStyle::Exclamation, DumpTitle());
+        dialogs_.MsgBox(InvalidProgramText(), MsgStyle::Exclamation, DumpTitle());
         return std::nullopt;
     }
     return image;
@@ -152,12 +149,21 @@ void RSComm::WriteConfiguration() {
                         MsgStyle::Critical, QStringLiteral("Program Config Download"));
 }
 
+// What the board answers to the mode byte does not matter, but that it answers does: the attention
+// after a time-out takes the board out of program mode again, and the records would be commands to
+// a running machine. The mode byte is sent again, and the user is asked when that does not help.
 void RSComm::EnterProgramMode() {
-    if (!commError_)
+    for (int attempt = 1; !commError_; ++attempt) {
         ExchangeByte(attention);
+        linkMode_ = LinkMode::Program; // a time-out takes it back
+        if (!commError_)
+            ExchangeByte(programModeByte);
+        if (linkMode_ == LinkMode::Program)
+            break;
+        if (attempt % modeAttempts == 0 && !commError_ && !UserRetriesLine())
+            commError_ = true;
+    }
     linkMode_ = LinkMode::None;
-    if (!commError_)
-        ExchangeByte(programModeByte);
 }
 
 bool RSComm::LeaveProgramMode() {

@@ -3,6 +3,7 @@
 #include "base/DoEvents.h"
 #include "base/MSComm.h"
 #include "base/RunTimeError.h"
+#include "link/DumpPrompt.h"
 #include "link/HexImage.h"
 #include "link/RSComm.h"
 
@@ -17,9 +18,7 @@ RSComm::RecordsEnd RSComm::SendRecords(const HexImage& image) {
         if (commError_)
             return RecordsEnd::LinkFailed;
         if (line.kind == HexLine::Kind::NoRecord) {
-            HaltDump(QStringLiteral("Currently Selected Program is Invalid.\r\n\r\n"
-                                    "Program Download Halted!"),
-                     MsgStyle::Exclamation, QStringLiteral("Program Dump"));
+            HaltDump(InvalidProgramText(), MsgStyle::Exclamation, QStringLiteral("Program Dump"));
             return RecordsEnd::Halted;
         }
         if (line.kind == HexLine::Kind::Record && !SendRecord(line, lastReply)) {

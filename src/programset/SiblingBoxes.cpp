@@ -3,12 +3,10 @@
 #include "base/RunTimeError.h"
 #include "base/Siblings.h"
 #include "base/TextFile.h"
-#include "link/MarkHex.h"
+#include "link/ProgramIdent.h"
 #include <QFileInfo>
 
 namespace {
-constexpr qsizetype trailerLength = 4; // checksum and revision, two characters each
-
 QString TabbedLines(const QStringList& lines) {
     return u'\t' + lines.join(QStringLiteral("\r\n\t"));
 }
@@ -33,10 +31,8 @@ QString WithSeconds(QString format) {
 RevisionRecord DecodeRevisionRecord(const QString& record) {
     if (record.isEmpty())
         return {};
-    if (record.size() < trailerLength)
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-    return {record.chopped(trailerLength), MarkHexToDecimal(record.right(2)),
-            MarkHexToDecimal(record.right(trailerLength).left(2))};
+    const ProgramIdent program = ParseRevLine(record);
+    return {program.ident, program.revision, program.checksum};
 }
 
 RevisionRecord ReadRevisionRecord(const QString& revFile) {

@@ -148,6 +148,41 @@ TEST_F(DumpFailure, AnswerToTheModeByteIsNotLookedAt) {
     CheckWire();
 }
 
+// The attention after the time-out has taken the board out of program mode again. Records sent to
+// it then would be commands to a running machine.
+TEST_F(DumpFailure, ModeByteThatTimedOutIsSentAgainBeforeAnyRecord) {
+    ReadIdentBlock("", 0, 0);
+    RequestDump();
+    Pair(0xFF, 0x55);
+    Quiet(0x03);
+    Pair(0xFF, 0x55);
+    Pair(0xFF, 0x55);
+    Pair(0x03, 0x55);
+    GoodRecord({0x01, 0x20, 0x00, 0x07});
+    Pair(0xFF, 0x55);
+    WriteIdentBlock(QByteArray("PUMP1\0\0\0", 8), 163, 1);
+    Begin(":0120000007D8\r\n");
+    ExpectComplete();
+    link.DumpProgram();
+    CheckWire();
+}
+
+TEST_F(DumpFailure, ModeByteThatNeverArrivesEndsTheDumpBeforeAnyRecord) {
+    ReadIdentBlock("", 0, 0);
+    RequestDump();
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        Pair(0xFF, 0x55);
+        Quiet(0x03);
+        Pair(0xFF, 0x55);
+    }
+    Begin(":0120000007D8\r\n");
+    ExpectNoReplyAlert();
+    ExpectNotComplete();
+    link.DumpProgram();
+    CheckHalted();
+    EXPECT_TRUE(link.CommError());
+}
+
 TEST_F(DumpFailure, BoardThatDoesNotLeaveProgramModeIsReported) {
     StartDump();
     Pair(0xFF, 0x54);

@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# Fails when a source file includes a header of a layer above its own: the folders of src stand on
+# one another in one direction only. Folders of one rank know nothing of each other.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# Rank of a folder; a folder "views" lies above the core of its subsystem and above the controls.
+ranks='base=0 link=1 programset=2 session=3 jobs=4 statustable=5 targetboard=5 pls=5 reports=5
+  trending=6 controls=7 views=8 shell=9 app=10'
+
+git grep -n '^#include "' -- 'src/*.h' 'src/*.cpp' | awk -v ranks="$ranks" '
+  function layer(path, part) {
+    split(path, part, "/")
+    return part[2] == "views" ? part[1] "/views" : part[1]
+  }
+  function rank(name) {
+    sub(".*/", "", name)
+    if (!(name in rank_of)) {
+      print "scripts/layers.sh does not know the folder " name
+      unknown = 1
+    }
+    return rank_of[name]
+  }
+  BEGIN {
+    for (i = split(ranks, all, " "); i > 0; --i) {
+      split(all[i], pair, "=")
+      rank_of[pair[1]] = pair[2]
+    }
+  }
+  {
+    split($0, piece, "\"")
+    place = piece[1]
+    sub("^src/", "", place)
+    user = layer(place)
+    used = layer(piece[2])
+    if (user == used || rank(used) < rank(user))
+      next
+    print "against the layers: " $0
+    wrong = 1
+  }
+  END { exit wrong || unknown }'
