@@ -9,10 +9,11 @@ constexpr int startTimeMs = 10000;
 constexpr int endTimeMs = 2000;
 } // namespace
 
-BoardProcess::BoardProcess(const QString& program, int baud) {
+BoardProcess::BoardProcess(const QString& program, int baud, const QStringList& more) {
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process_.start(program, {QStringLiteral("--baud"), QString::number(baud),
-                             QStringLiteral("--exit-with-stdin")});
+    const QStringList options = {QStringLiteral("--baud"), QString::number(baud),
+                                 QStringLiteral("--exit-with-stdin")};
+    process_.start(program, options + more);
     const QByteArray announcement = "ready on ";
     QByteArray line;
     while (!line.endsWith('\n') && process_.waitForReadyRead(startTimeMs))

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "base/MSComm.h"
+#include <array>
+#include <cstdint>
+#include <numeric>
 
 namespace bench {
 
@@ -11,6 +14,11 @@ public:
 
     /// Bytes sent and taken so far.
     qint64 Bytes() const { return bytes_; }
+
+    /// How often bytes from `first` to `last` were sent so far.
+    qint64 Sent(std::uint8_t first, std::uint8_t last) const {
+        return std::accumulate(sent_.begin() + first, sent_.begin() + last + 1, qint64(0));
+    }
 
     int CommPort() const override { return port_.CommPort(); }
     void SetCommPort(int number) override { port_.SetCommPort(number); }
@@ -24,6 +32,8 @@ public:
     void SetInBufferCount(int count) override { port_.SetInBufferCount(count); }
     void Output(const QByteArray& bytes) override {
         bytes_ += bytes.size();
+        for (const char byte : bytes)
+            ++sent_[static_cast<std::uint8_t>(byte)];
         port_.Output(bytes);
     }
     QByteArray Input() override {
@@ -36,6 +46,7 @@ public:
 private:
     MSComm& port_;
     qint64 bytes_ = 0;
+    std::array<qint64, 256> sent_{};
 };
 
 } // namespace bench

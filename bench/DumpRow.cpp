@@ -1,9 +1,8 @@
 #include "bench/DumpRow.h"
 
+#include "bench/BenchFiles.h"
 #include "bench/BenchLink.h"
 #include "bench/BoardProcess.h"
-#include <QFile>
-#include <stdexcept>
 
 namespace bench {
 
@@ -15,12 +14,6 @@ constexpr double fixedWaits = 0.1 + 2.0; // seconds
 constexpr int imageSize = 16 * 1024;     // bytes
 constexpr int imageStart = 0x2000;
 constexpr int recordSize = 16; // data bytes
-
-void WriteFile(const QString& path, const QByteArray& content) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        throw std::runtime_error("cannot write " + path.toStdString());
-}
 
 QByteArray Hex(int value, int digits) {
     return QByteArray::number(value, 16).rightJustified(digits, '0').toUpper();

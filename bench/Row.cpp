@@ -26,6 +26,10 @@ Row RowOfRates(const QString& name, double value, double reference, double goal)
     return {name, value, reference, value / reference, goal};
 }
 
+Row RowOfLimit(const QString& name, double value, double limit) {
+    return {name, value, limit, limit / value, 1.0};
+}
+
 bool IsReached(const Row& row) {
     return row.ratio >= row.goal;
 }

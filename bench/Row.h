@@ -17,6 +17,10 @@ struct Row {
 /// A row whose ratio is the value divided by the reference.
 Row RowOfRates(const QString& name, double value, double reference, double goal);
 
+/// A row of which the less the better: the ratio is the limit divided by the value, 1 when the
+/// limit is just kept.
+Row RowOfLimit(const QString& name, double value, double limit);
+
 /// True when the row reaches its goal.
 bool IsReached(const Row& row);
 

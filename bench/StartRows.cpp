@@ -12,10 +12,9 @@ namespace bench {
 namespace {
 constexpr double longestStart = 100; // milliseconds
 constexpr double mostMemory = 90;    // megabytes
-constexpr double goal = 1.0;
-constexpr int starts = 9;           // one more comes first and fills the data folder
-constexpr int startLimitMs = 20000; // a program that shows no window by then has failed
-constexpr int restMs = 500;         // without a paint: the program has come to rest
+constexpr int starts = 9;            // one more comes first and fills the data folder
+constexpr int startLimitMs = 20000;  // a program that shows no window by then has failed
+constexpr int restMs = 500;          // without a paint: the program has come to rest
 constexpr int endLimitMs = 5000;
 
 struct Start {
@@ -67,11 +66,6 @@ Start StartOnce(const QString& program, const QString& folder) {
         process.kill();
     process.waitForFinished(endLimitMs);
     return {milliseconds, megabytes};
-}
-
-// The less the better: the ratio is the part of the limit that is left, 1 when it is just kept.
-Row RowOfLimit(const QString& name, double value, double limit) {
-    return {name, value, limit, limit / value, goal};
 }
 } // namespace
 

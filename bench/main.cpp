@@ -1,9 +1,14 @@
+#include "bench/BrowserRow.h"
 #include "bench/DataTransferBench.h"
 #include "bench/DumpRow.h"
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
 #include "bench/Row.h"
 #include "bench/StartRows.h"
+#include "bench/TableFileRows.h"
+#include "bench/TableRefreshRows.h"
+#include "bench/TypingRow.h"
+#include "bench/UploadRow.h"
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -26,12 +31,19 @@ using Measurement = std::pair<QString, std::function<std::vector<bench::Row>()>>
 
 std::vector<Measurement> Measurements() {
     const QString board = Beside(QStringLiteral("halden-board"));
-    return {{QStringLiteral("exchanges"), [] { return std::vector{bench::MeasureExchanges()}; }},
-            {QStringLiteral("reads"), [board] { return bench::MeasurePacedReads(board); }},
-            {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
-            {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
-            {QStringLiteral("start"),
-             [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
+    return {
+        {QStringLiteral("exchanges"), [] { return std::vector{bench::MeasureExchanges()}; }},
+        {QStringLiteral("reads"), [board] { return bench::MeasurePacedReads(board); }},
+        {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
+        {QStringLiteral("upload"), [board] { return std::vector{bench::MeasureUpload(board)}; }},
+        {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
+        {QStringLiteral("table"), [board] { return bench::MeasureTableRefresh(board); }},
+        {QStringLiteral("typing"), [board] { return std::vector{bench::MeasureTyping(board)}; }},
+        {QStringLiteral("open"), bench::MeasureTableOpening},
+        {QStringLiteral("offline"), [] { return std::vector{bench::MeasureOfflineTable()}; }},
+        {QStringLiteral("browser"), [] { return std::vector{bench::MeasureBrowser()}; }},
+        {QStringLiteral("start"),
+         [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
 }
 
 // Runs those that are named, or all.

@@ -17,6 +17,26 @@ SETS = [
 LCF_BOARD = {"A": "E"}
 PLS_SETS = [("CAM1", "E")]
 
+# What PUMP1 calls its variables: section by section (flags, memory, X inputs, Y outputs), each
+# variable with a short name, a description, and the names of some of its bits.
+PUMP1_NAMES = [
+    [(64, "RUN", "Pumps are released", {}), (65, "STANDBY", "Standby pump runs", {})],
+    [
+        (100, "TENTHS", "Run time in tenths of a second", {}),
+        (102, "SECONDS", "Run time in seconds", {}),
+        (104, "FLOW", "Flow in litres a minute", {}),
+        (106, "PRESSURE", "Pressure after the pumps in millibar", {}),
+        (110, "VOLUME", "Volume since the last reset in litres", {}),
+        (114, "VALVES", "Positions of the eight valves", {}),
+        (115, "STATE", "State of the sequence", {3: ("DRAIN", "Drain valve is open")}),
+        (520, "LIMIT", "First of the limit values", {}),
+    ],
+    [],
+    [(1, "PUMP1", "Outputs of pump 1", {}), (10, "LEVELS", "Level switches of the basin", {})],
+]
+PUMP1_TABLE = ["W100", "W104", "D110", "B114", "B115.3", "F64", "Y1", "I10", "B520"]
+PUMP1_LIMITS = ["100", "2500", "7"]
+
 
 def mark_hex(byte):
     return "".join(chr(ord("0") + digit) for digit in divmod(byte, 16))
@@ -55,12 +75,29 @@ def write_set(base, board, start, length, revision, config, title):
         write(f"{base}.lcf", f"{LCF_BOARD[board]}{'0' * 34}{a}00{b}{c}000%")
 
 
+def name_lines(kind):
+    """Lines of a name file; kind 0 gives the short names, 1 the descriptions."""
+    for section, variables in enumerate(PUMP1_NAMES):
+        if section:
+            yield "&"
+        for number, *texts, bits in variables:
+            yield f"{number:04}{texts[kind]}"
+            if bits:
+                yield "/"
+                yield from (f"{bit}{names[kind]}" for bit, names in bits.items())
+                yield "#"
+
+
 def main():
     FOLDER.mkdir(exist_ok=True)
     for row in SETS:
         write_set(*row)
     for base, board in PLS_SETS:
         write(f"{base}.hdn", board)
+    write("PUMP1.nam", *name_lines(0))
+    write("PUMP1.doc", *name_lines(1))
+    write("PUMP1.tbl", " 50 ", *PUMP1_TABLE, "")
+    write("LIMITS.txt", *PUMP1_LIMITS)
 
 
 main()

@@ -5,12 +5,16 @@
 #include "app/TransferViews.h"
 #include "controls/ViewHelpers.h"
 #include "link/views/frmDownloadProg.h"
+#include "link/views/frmSetupComm.h"
+#include "shell/frmCopyFile.h"
+#include "shell/frmMain.h"
+#include "shell/frmNewFile.h"
 
 Application::Application(const Platform& platform)
     : platform_(platform), link_(platform.dialogs, platform.clock, platform.busy, platform.folder),
       loops_(BlockedByModalView),
       window_(ShellContext{link_, platform.port, platform.dialogs, platform.clock, platform.folder,
-                           files_, platform.drives, platform.endProgram}) {
+                           files_, fileOperations_, platform.drives, platform.endProgram}) {
     RegisterViews();
 }
 
@@ -28,8 +32,29 @@ void Application::RegisterViews() {
         view.SetTransferMode(mode);
         view.exec();
     };
+    window_.Views().frmSetupComm = [this] {
+        frmSetupComm view({link_, platform_.port, platform_.dialogs, platform_.clock,
+                           platform_.ports, platform_.folder},
+                          &window_);
+        view.exec();
+    };
+    RegisterSetViews();
     transfers_ = std::make_unique<TransferViews>(platform_, link_, files_, window_);
     statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
+}
+
+void Application::RegisterSetViews() {
+    const SetFiles context{link_,           platform_.dialogs, files_,
+                           fileOperations_, platform_.drives,  window_.Browser()};
+    window_.Views().frmNewFile = [this, context](qint16 mode) {
+        frmNewFile view(context, platform_.tools, platform_.folder, &window_);
+        view.SetNewFileMode(mode);
+        view.exec();
+    };
+    window_.Views().frmCopyFile = [this, context] {
+        frmCopyFile view(context, &window_);
+        view.exec();
+    };
 }

@@ -3,9 +3,12 @@
 #include "base/FileSystem.h"
 #include "base/ViewLoop.h"
 #include "link/RSComm.h"
+#include "programset/FileOperations.h"
 #include "shell/frmMDIMain.h"
 #include <memory>
 
+class ProcessStart;
+class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
 class TransferViews;
@@ -19,6 +22,8 @@ struct Platform {
     MSComm& port;
     const ApplicationFolder& folder;
     const Drives& drives;
+    const SerialPorts& ports;
+    ProcessStart& tools;
     std::function<void()> endProgram; ///< ends the event loop
 };
 
@@ -40,9 +45,11 @@ public:
 
 private:
     void RegisterViews();
+    void RegisterSetViews();
 
     const Platform platform_;
     FileSystem files_;
+    DiskFileOperations fileOperations_;
     RSComm link_;
     ViewLoopRunner loops_;
     frmMDIMain window_;

@@ -2,6 +2,8 @@
 #include "base/ApplicationFolder.h"
 #include "base/Drives.h"
 #include "base/port/SerialMSComm.h"
+#include "base/port/SystemSerialPorts.h"
+#include "base/ProcessStart.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
 #include <QApplication>
@@ -29,8 +31,10 @@ int main(int argc, char** argv) {
     PaintedBusyDisplay busy;
     SystemDrives drives;
     SerialMSComm port(clock, folder);
+    const SystemSerialPorts ports(folder);
+    SystemProcessStart tools;
     Application application(
-        {clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
+        {clock, dialogs, busy, port, folder, drives, ports, tools, [] { QApplication::exit(); }});
     application.Start();
     return QApplication::exec();
 }

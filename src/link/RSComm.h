@@ -183,7 +183,7 @@ private:
     bool EchoedAlike(std::uint8_t byte, bool& answered);
     void RefuseEntry(const QString& reason);
 
-    // RSCommPLS.cpp: commands of limit switch boards.
+    // RSCommBoard.cpp: commands of limit switch boards.
     int ReadPLSWord(std::uint8_t command);
 
     // RSCommProgramSet.cpp: the files of a program set.

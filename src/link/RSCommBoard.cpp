@@ -9,7 +9,7 @@
 #include "link/VariableAddress.h"
 
 namespace {
-constexpr std::uint8_t acknowledge = 0x55;
+constexpr std::uint8_t clockByte = 0x55; // asks for the next data byte
 constexpr std::uint8_t readOffsetCommand = 0x28;
 constexpr int failedPLSRead = -9999;
 } // namespace
@@ -75,15 +75,19 @@ QString RSComm::PLSOffset() {
     return QString::number(ReadPLSWord(readOffsetCommand));
 }
 
-// The reads of a limit switch board are commands: each does its own handshake.
+// The reads of a limit switch board are commands: each does its own handshake. A time-out on the
+// way leaves the mode: what then answered was the acknowledge of an attention and no data byte.
 int RSComm::ReadPLSWord(std::uint8_t command) {
-    if (!SetTargetMode(LinkMode::PLSReadWord, command) || commError_)
+    const auto failed = [this](int reply) {
+        return reply == noReply || linkMode_ != LinkMode::PLSReadWord;
+    };
+    if (!SetTargetMode(LinkMode::PLSReadWord, command))
         return failedPLSRead;
-    const int low = ExchangeByte(acknowledge);
-    if (low == noReply || commError_)
+    const int low = ExchangeByte(clockByte);
+    if (failed(low))
         return failedPLSRead;
-    const int high = ExchangeByte(acknowledge);
-    if (high == noReply || commError_)
+    const int high = ExchangeByte(clockByte);
+    if (failed(high))
         return failedPLSRead;
     linkMode_ = LinkMode::None;
     return high * 256 + low;

@@ -2,8 +2,8 @@
 #include "base/Dialogs.h"
 #include "base/MSComm.h"
 #include "base/RunTimeError.h"
-#include "link/RSComm.h"
 #include "link/LongWait.h"
+#include "link/RSComm.h"
 #include <algorithm>
 
 namespace {
@@ -82,8 +82,10 @@ int RSComm::AwaitReply() {
         timeOuts = 0;
     }
     const QByteArray received = port_->Input();
+    if (received.isEmpty()) // announced, but gone: it must not pass for a 0
+        throw RunTimeError(ErrorNumber::DeviceIOError);
     commErrorAlert_ = false;
-    return received.isEmpty() ? 0 : static_cast<std::uint8_t>(received.front());
+    return static_cast<std::uint8_t>(received.front());
 }
 
 bool RSComm::UserRetries(const QString& text) {
@@ -126,7 +128,10 @@ void RSComm::WaitSeconds(double seconds) {
         clock_.Wait(std::min(deadline, display.Look(now)) - now);
 }
 
-// Enters a link mode: attention and the mode byte, each to be acknowledged.
+// Enters a link mode: attention and the mode byte, each to be acknowledged. When the mode byte
+// timed out, what then answered was the acknowledge of an attention and the board waits for a
+// command: an address byte 0x03 sent now would stop the machine in program mode. The handshake
+// starts over.
 bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
     linkMode_ = LinkMode::None;
     double deadline = clock_.MonotonicSeconds() + handshakeTime;
@@ -142,14 +147,13 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
         }
         int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
         if (reply == acknowledge) {
+            linkMode_ = mode; // a time-out takes it back
             reply = ExchangeByte(modeByte);
-            if (reply == acknowledge) {
-                linkMode_ = mode;
+            if (reply == acknowledge && linkMode_ == mode)
                 return true;
-            }
         }
+        linkMode_ = LinkMode::None;
         if (reply == noReply)
             return false;
-        linkMode_ = LinkMode::None;
     }
 }

@@ -27,7 +27,7 @@ QString WithHdn(const QString& path) {
 }
 } // namespace
 
-CopyProgramSet::CopyProgramSet(Dialogs& dialogs, FileOperations& files, Drives& drives)
+CopyProgramSet::CopyProgramSet(Dialogs& dialogs, FileOperations& files, const Drives& drives)
     : dialogs_(dialogs), files_(files), drives_(drives) {}
 
 bool CopyProgramSet::Begin(const Request& request) {

@@ -27,7 +27,7 @@ public:
         QString destinationName; ///< ".hdn" is appended where it is missing
     };
 
-    CopyProgramSet(Dialogs& dialogs, FileOperations& files, Drives& drives);
+    CopyProgramSet(Dialogs& dialogs, FileOperations& files, const Drives& drives);
 
     /// Checks the request and asks what has to be asked: a lost source, a long name, a set in the
     /// way. Returns false if nothing is to be copied. Copies nothing yet. Raises 52 for a
@@ -57,7 +57,7 @@ private:
 
     Dialogs& dialogs_;
     FileOperations& files_;
-    Drives& drives_;
+    const Drives& drives_;
     QString sourceFolder_;
     QString destinationFolder_;
     QString longBase_;    // as the user typed it

@@ -8,6 +8,7 @@ QString gCurrentFolder;
 QString gCurrentFile;
 QStringList gCurrentFiles;
 QString gCurrentDrive;
+bool gNewFileAccepted = false;
 qint16 gPrintContext = PrintContext::Browser;
 
 QStringList gTableAddresses;

@@ -27,6 +27,10 @@ extern QStringList gCurrentFiles;
 /// Drive (mount point) in use. Written by start-up and the browser; read by the browser.
 extern QString gCurrentDrive;
 
+/// A program set was made in frmNewFile. Written by the new-program command and that view; read by
+/// the command.
+extern bool gNewFileAccepted;
+
 /// Which view the toolbar's print button serves.
 namespace PrintContext {
 constexpr qint16 Browser = 0;

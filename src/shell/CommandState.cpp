@@ -19,6 +19,13 @@ QString OwningView(const QString& name) {
     return QString();
 }
 
+// A hidden command is disabled too, so that its key does nothing. These few are told apart by the
+// class of the board all the same.
+bool FollowsTheBoard(const QString& name) {
+    return name == QStringLiteral("mnuFileListPopupCompile") ||
+           name == QStringLiteral("mnuFileListPopupSearch") || name == QStringLiteral("Monitor");
+}
+
 // Position in the recent list of "mnuFileList(2)", or -1.
 int RecentPosition(const QString& name) {
     for (int i = 0; i < recentCount; ++i) {
@@ -40,7 +47,8 @@ EntryState CommandState::Entry(const MenuEntry& entry) const {
     const QString name = QString::fromLatin1(entry.name);
     EntryState state;
     state.visible = IsVisible(name, entry.start);
-    state.enabled = situation_.handled.contains(name) && IsAllowed(name);
+    state.enabled = situation_.handled.contains(name) && IsAllowed(name) &&
+                    (entry.start != CommandStart::Hidden || FollowsTheBoard(name));
     if (name == QStringLiteral("mnuViewOnline"))
         state.checked = situation_.online;
     if (name == QStringLiteral("mnuViewOffline"))
@@ -88,7 +96,8 @@ EntryState CommandState::Button(const ToolbarEntry& button) const {
     const QString key = QString::fromLatin1(button.key);
     EntryState state;
     state.visible = button.start != CommandStart::Hidden;
-    state.enabled = situation_.handled.contains(ToolbarCommand(button, situation_.plsBoard));
+    state.enabled = situation_.handled.contains(ToolbarCommand(button, situation_.plsBoard)) &&
+                    (state.visible || FollowsTheBoard(key));
     if (button.start == CommandStart::Disabled)
         state.enabled = state.enabled && situation_.resultsFound;
     if (key == QStringLiteral("Monitor"))

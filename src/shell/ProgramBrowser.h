@@ -16,4 +16,10 @@ public:
     /// Puts all lists onto `path` and selects it; a path that does not exist changes nothing but
     /// the current directory.
     virtual void RefreshFileList(const QString& path) = 0;
+    /// How many sets the file list holds.
+    virtual int ListCount() const = 0;
+    /// Position of the selected set from 0, -1 when none is.
+    virtual int ListIndex() const = 0;
+    /// Selects the set at a position, as a click on it does.
+    virtual void SetListIndex(int position) = 0;
 };

@@ -11,11 +11,10 @@
 #include "shell/BackgroundTimer.h"
 #include "shell/ModalViews.h"
 #include "shell/ProgramBrowser.h"
+#include "shell/ProgramFileDialog.h"
 #include <QDir>
 
 namespace {
-// 528388: explorer style, the file must exist, no read-only box.
-constexpr int openFlags = 0x80000 | DialogFlag::FileMustExist | 0x4;
 constexpr qint16 dumpMode = 0;
 } // namespace
 
@@ -45,17 +44,8 @@ void ProgramCommands::OpenProgramDialog(bool BypassOpen, bool BypassInputBox, bo
 }
 
 QString ProgramCommands::AskProgram() {
-    const QString selected = browser_.SelectedProgramPath();
-    FileDialogRequest request;
-    request.filter = QStringLiteral("Halden Files(*.hdn)|*.hdn|");
-    request.flags = openFlags;
-    if (files_.FileExists(selected)) {
-        request.fileName = selected;
-        request.initDir = files_.GetParentFolderName(selected);
-    } else {
-        request.fileName = QStringLiteral(" ");
-        request.initDir = browser_.Folder();
-    }
+    const FileDialogRequest request =
+        ProgramFileDialog(files_, browser_.SelectedProgramPath(), browser_.Folder());
     QDir::setCurrent(request.initDir);
     const QString file = dialogs_.ShowOpen(request);
     DoEvents();

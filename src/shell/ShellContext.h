@@ -6,6 +6,7 @@ class ApplicationFolder;
 class Clock;
 class Dialogs;
 class Drives;
+class FileOperations;
 class FileSystem;
 class MSComm;
 class RSComm;
@@ -18,6 +19,7 @@ struct ShellContext {
     Clock& clock;
     const ApplicationFolder& folder;
     FileSystem& files;
+    FileOperations& fileOperations;
     const Drives& drives;
     std::function<void()> endProgram; ///< called once, at the end of the shut-down
 };

@@ -20,6 +20,7 @@ frmMDIMain::frmMDIMain(const ShellContext& context)
     recent_ =
         std::make_unique<RecentMenu>(context_.folder.Path(QStringLiteral("support/HD2000.dat")),
                                      *surface_, context_.files, *browser_, *programs_);
+    MakeCommands();
     RegisterCommands();
     ConnectBrowser();
     RefreshCommandState();
@@ -30,7 +31,20 @@ frmMDIMain::~frmMDIMain() {
     delete children_;
 }
 
+void frmMDIMain::MakeCommands() {
+    const SetFiles setFiles{context_.link,           context_.dialogs, context_.files,
+                            context_.fileOperations, context_.drives,  *browser_};
+    sets_ = std::make_unique<SetCommands>(setFiles, *programs_, *recent_, views_);
+    transfers_ = std::make_unique<TransferCommands>(TransferContext{
+        context_.link, mode_, context_.dialogs, context_.files, *browser_, *programs_, views_});
+    tools_ = std::make_unique<ToolCommands>(ToolContext{context_.link, mode_, context_.dialogs,
+                                                        context_.clock, context_.files, *browser_,
+                                                        *programs_, *surface_, views_},
+                                            [this] { SetResultsFound(true); });
+}
+
 void frmMDIMain::Load() {
+    TakeViews();
     try {
         StartUp();
     } catch (const RunTimeError& error) {

@@ -8,8 +8,11 @@
 #include "shell/ModalViews.h"
 #include "shell/ProgramCommands.h"
 #include "shell/RecentMenu.h"
+#include "shell/SetCommands.h"
 #include "shell/ShellContext.h"
 #include "shell/StatusPanels.h"
+#include "shell/ToolCommands.h"
+#include "shell/TransferCommands.h"
 #include <QMainWindow>
 #include <set>
 
@@ -55,9 +58,13 @@ public:
     BackgroundTimer& Timer() { return *timer_; }
     ProgramCommands& Programs() { return *programs_; }
     RecentMenu& Recent() { return *recent_; }
+    TransferCommands& Transfers() { return *transfers_; }
+    ToolCommands& Tools() { return *tools_; }
     StatusPanels& Panels() { return *panels_; }
-    /// Modal views; to be filled in before Load.
+    /// Views that commands open; to be filled in before Load.
     ModalViews& Views() { return views_; }
+    /// Gives the entries of the views that are there their commands; Load does it first of all.
+    void TakeViews();
 
     /// Puts the state of all entries right after something they depend on has changed.
     void RefreshCommandState();
@@ -68,6 +75,7 @@ protected:
 
 private:
     // frmMDIMain.cpp
+    void MakeCommands();
     void StartUp();
     void TakeGlobals();
     void ReleaseGlobals();
@@ -75,8 +83,14 @@ private:
     // frmMDIMainForm.cpp
     void BuildForm();
     void ConnectBrowser();
-    void RegisterCommands();
     void SizeToScreen();
+
+    // frmMDIMainRegister.cpp
+    void Handle(const char* name, CommandSurface::Handler handler);
+    void RegisterCommands();
+    void RegisterTools();
+    void TakePLSRoute();
+    void TakeResultsView();
 
     // frmMDIMainCommands.cpp
     void mnuFileExit_Click();
@@ -101,6 +115,9 @@ private:
     BackgroundTimer* timer_ = nullptr;
     std::unique_ptr<ProgramCommands> programs_;
     std::unique_ptr<RecentMenu> recent_;
+    std::unique_ptr<SetCommands> sets_;
+    std::unique_ptr<TransferCommands> transfers_;
+    std::unique_ptr<ToolCommands> tools_;
 
     std::set<QString> modalViews_;
     bool resultsFound_ = false;

@@ -19,7 +19,7 @@ void frmMDIMain::mnuFileExit_Click() {
 }
 
 void frmMDIMain::mnuFileListPopupOpen_Click() {
-    programs_->SpawnRequest(openForEditing, true);
+    surface_->Run(QStringLiteral("mnuFileListPopupOpen"));
 }
 
 void frmMDIMain::filFileList_DblClick() {

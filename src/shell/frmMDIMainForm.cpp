@@ -54,15 +54,3 @@ void frmMDIMain::ConnectBrowser() {
     connect(surface_, &CommandSurface::HandlersChanged, this, &frmMDIMain::RefreshCommandState);
     connect(panels_, &StatusPanels::PanelDoubleClicked, this, &frmMDIMain::sbrMain_PanelDblClick);
 }
-
-void frmMDIMain::RegisterCommands() {
-    surface_->Handle(QStringLiteral("mnuFileExit"), [this] { mnuFileExit_Click(); });
-    surface_->Handle(QStringLiteral("mnuViewOnline"), [this] { mode_.GoOnline(); });
-    surface_->Handle(QStringLiteral("mnuViewOffline"), [this] { mode_.GoOffline(); });
-    surface_->Handle(QStringLiteral("mnuFileDownloadProgram"),
-                     [this] { programs_->DownloadProgram(false); });
-    surface_->Handle(QStringLiteral("mnuFileListPopupDownloadProg"),
-                     [this] { programs_->DownloadProgram(true); });
-    surface_->SetButtonHandler(
-        [this](const ToolbarEntry& button) { Toolbar1_ButtonClick(button); });
-}

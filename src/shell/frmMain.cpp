@@ -103,6 +103,18 @@ QString frmMain::Folder() const {
     return dirDirList_->Path();
 }
 
+int frmMain::ListCount() const {
+    return filFileList_->model()->rowCount();
+}
+
+int frmMain::ListIndex() const {
+    return filFileList_->currentIndex().row();
+}
+
+void frmMain::SetListIndex(int position) {
+    filFileList_->setCurrentIndex(filFileList_->model()->index(position, 0));
+}
+
 bool frmMain::HasSelection() const {
     return !filFileList_->FileName().isEmpty();
 }

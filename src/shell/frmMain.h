@@ -47,6 +47,9 @@ public:
     void RefreshFileList(const QString& path) override;
     QString SelectedProgramPath() const override;
     QString Folder() const override;
+    int ListCount() const override;
+    int ListIndex() const override;
+    void SetListIndex(int position) override;
     /// A file is selected in the list.
     bool HasSelection() const;
 

@@ -54,6 +54,14 @@ TEST_F(LostPort, WhatThePortRaisesStaysInsideTheLink) {
     EXPECT_EQ(port.Sent(), Bytes{});
 }
 
+TEST_F(LostPort, AReplyThatIsGoneWhenItIsTakenIsAFailureAndNoZero) {
+    AnswerRead(0, 8);
+    port.WithholdInput(true);
+    link.RSRead(QStringLiteral("B100"));
+    EXPECT_TRUE(link.CommError());
+    EXPECT_EQ(port.Sent(), (Bytes{0})) << "the high byte 0 must not count as echoed";
+}
+
 TEST_F(LostPort, AfterWhatThePortRaisedTheLinkIsInNoMode) {
     port.RefuseOutput(57);
     link.RSRead(QStringLiteral("B40"));

@@ -63,6 +63,24 @@ TEST_F(PLSOffset, NoHighByteGivesMinus9999) {
     EXPECT_EQ(link.PLSOffset(), QStringLiteral("-9999"));
 }
 
+TEST_F(PLSOffset, AnAttentionThatAnswersTheLowByteGivesMinus9999) {
+    AcceptHandshake();
+    port.Silence();
+    port.Reply(0x55); // the attention after the time-out
+    EXPECT_EQ(link.PLSOffset(), QStringLiteral("-9999"));
+    EXPECT_FALSE(link.CommError());
+    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x28, 0x55, 0xFF}));
+}
+
+TEST_F(PLSOffset, AnAttentionThatAnswersTheHighByteGivesMinus9999) {
+    AcceptHandshake();
+    port.Reply(0x2C);
+    port.Silence();
+    port.Reply(0x55);
+    EXPECT_EQ(link.PLSOffset(), QStringLiteral("-9999"));
+    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x28, 0x55, 0x55, 0xFF}));
+}
+
 TEST_F(PLSOffset, WithCommErrorItIsMinus9999AndNothingIsSent) {
     link.SetCommError(true);
     EXPECT_EQ(link.PLSOffset(), QStringLiteral("-9999"));

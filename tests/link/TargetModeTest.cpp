@@ -111,6 +111,17 @@ TEST_F(TargetMode, ALateAnswerToTheModeByteCountsAsTheAnswerToTheAttentionAfterI
     EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x01, 0xFF, 0xFF, 0x01, 0, 100}));
 }
 
+// The board waits for a command then; the address byte of B800 is the one that stops the machine.
+TEST_F(TargetMode, AnAttentionThatAnswersTheModeByteIsNoAcknowledge) {
+    port.Reply(0x55);
+    port.Silence();
+    port.Reply(0x55); // the attention after the time-out
+    AcceptHandshake();
+    AnswerRead(3, 8);
+    EXPECT_EQ(link.RSRead(QStringLiteral("B800")), QStringLiteral("8"));
+    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x01, 0xFF, 0xFF, 0x01, 3, 32}));
+}
+
 TEST_F(TargetMode, WithCommErrorNothingIsSentAndNothingShown) {
     link.SetCommError(true);
     EXPECT_EQ(ReadB100(), QStringLiteral("0"));

@@ -221,8 +221,8 @@ TEST_F(Commands, AnErrorThatAHandlerLetsThroughIsShown) {
 
 TEST_F(Commands, EntriesOfViewsThatAreNotThereAreDisabled) {
     for (const char* name :
-         {"mnuEditCommPort", "mnuToolsStatusTable", "mnuToolsTrending", "mnuHelpAbout",
-          "mnuViewTargetBoardStatus", "Status", "Trend", "PLS", "PLC", "View"})
+         {"mnuToolsTrending", "mnuToolsPLSProgramming", "mnuHelpAbout", "mnuHelpTopics",
+          "mnuViewCompileErrors", "Trend", "PLS", "View"})
         EXPECT_FALSE(Entry(name)->isEnabled()) << name;
     EXPECT_TRUE(Entry("mnuFileExit")->isEnabled());
 }

@@ -29,7 +29,8 @@ protected:
     void SetUp() override {
         Start();
         GoToSets();
-        for (const char* name : {"frmStatusTable", "frmTrending"})
+        Window().Children().Hide("frmStatusTable"); // start-up has shown it
+        for (const char* name : {"frmViewResults", "frmTrending"})
             Window().Children().Register(name, [this, name] {
                 ++made_;
                 return new CountingView(QString::fromLatin1(name));
@@ -55,11 +56,11 @@ protected:
 
 TEST_F(Children, AViewIsMadeAtItsFirstUseAndKept) {
     EXPECT_EQ(made_, 0);
-    Window().Children().Show("frmStatusTable");
-    Window().Children().Hide("frmStatusTable");
-    EXPECT_FALSE(Window().IsViewVisible("frmStatusTable"));
-    Window().Children().Show("frmStatusTable");
-    EXPECT_TRUE(Window().IsViewVisible("frmStatusTable"));
+    Window().Children().Show("frmViewResults");
+    Window().Children().Hide("frmViewResults");
+    EXPECT_FALSE(Window().IsViewVisible("frmViewResults"));
+    Window().Children().Show("frmViewResults");
+    EXPECT_TRUE(Window().IsViewVisible("frmViewResults"));
     EXPECT_EQ(made_, 1);
 }
 
@@ -70,7 +71,7 @@ TEST_F(Children, AnUnknownViewIsNotShown) {
 }
 
 TEST_F(Children, TheBrowserStaysTheLowest) {
-    Window().Children().Show("frmStatusTable");
+    Window().Children().Show("frmViewResults");
     EXPECT_TRUE(BrowserIsLowest());
     ClickSet("PUMP.hdn");
     EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmMain");
@@ -80,19 +81,19 @@ TEST_F(Children, TheBrowserStaysTheLowest) {
 }
 
 TEST_F(Children, ViewsAreToldOfActivation) {
-    Window().Children().Show("frmStatusTable");
-    EXPECT_EQ(View("frmStatusTable")->activated, 1);
+    Window().Children().Show("frmViewResults");
+    EXPECT_EQ(View("frmViewResults")->activated, 1);
     Window().Children().Show("frmTrending");
-    EXPECT_EQ(View("frmStatusTable")->deactivated, 1);
+    EXPECT_EQ(View("frmViewResults")->deactivated, 1);
     EXPECT_EQ(View("frmTrending")->activated, 1);
     EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmTrending");
 }
 
 TEST_F(Children, ClosingTheActiveViewActivatesAnother) {
-    Window().Children().Show("frmStatusTable");
-    Frame("frmStatusTable")->close();
+    Window().Children().Show("frmViewResults");
+    Frame("frmViewResults")->close();
     EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmMain");
-    EXPECT_EQ(View("frmStatusTable")->deactivated, 1);
+    EXPECT_EQ(View("frmViewResults")->deactivated, 1);
 }
 
 TEST_F(Children, TheActiveViewChangesTheCommands) {
@@ -106,31 +107,31 @@ TEST_F(Children, TheActiveViewChangesTheCommands) {
 }
 
 TEST_F(Children, AResizeReachesTheBrowserAndVisibleViewsOnly) {
-    Window().Children().Show("frmStatusTable");
+    Window().Children().Show("frmViewResults");
     Window().Children().Show("frmTrending");
     Window().Children().Hide("frmTrending");
-    const int before = View("frmStatusTable")->resized;
+    const int before = View("frmViewResults")->resized;
     Window().resize(900, 600);
     QTest::qWait(0);
-    EXPECT_GT(View("frmStatusTable")->resized, before);
+    EXPECT_GT(View("frmViewResults")->resized, before);
     EXPECT_EQ(View("frmTrending")->resized, 0);
     const QWidget* frame = Window().Browser().parentWidget();
     EXPECT_EQ(frame->size(), frame->parentWidget()->size());
 }
 
 TEST_F(Children, BeforeTheFirstActivationAResizeReachesNobody) {
-    Window().Children().Show("frmStatusTable");
+    Window().Children().Show("frmViewResults");
     Window().Browser().gFormLoaded = false;
     Window().resize(900, 600);
-    EXPECT_EQ(View("frmStatusTable")->resized, 0);
+    EXPECT_EQ(View("frmViewResults")->resized, 0);
 }
 
 TEST_F(Children, AViewOpensBesideTheListsOfTheBrowser) {
     Window().resize(1280, 800);
     QTest::qWait(0);
-    Window().Children().Show("frmStatusTable");
-    const QRect view(Frame("frmStatusTable")->mapTo(&Window(), QPoint(0, 0)),
-                     Frame("frmStatusTable")->size());
+    Window().Children().Show("frmViewResults");
+    const QRect view(Frame("frmViewResults")->mapTo(&Window(), QPoint(0, 0)),
+                     Frame("frmViewResults")->size());
     for (const char* list : {"dirDirList", "filFileList", "trvHDNList"}) {
         const auto* widget = Find<QWidget>(list);
         const QRect place(widget->mapTo(&Window(), QPoint(0, 0)), widget->size());

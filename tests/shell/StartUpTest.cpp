@@ -66,7 +66,7 @@ TEST_F(StartUp, GlobalsStandOnceTheWindowIsUp) {
 
 TEST_F(StartUp, TheTimerIsOffUntilTheBrowserIsUp) {
     application_ = std::make_unique<Application>(
-        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, [] {}});
+        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [] {}});
     auto* timer = Find<QTimer>("tmrBackgroungUpdate");
     EXPECT_FALSE(timer->isActive());
     EXPECT_EQ(timer->interval(), 500);
@@ -76,7 +76,7 @@ TEST_F(StartUp, TheTimerIsOffUntilTheBrowserIsUp) {
 
 TEST_F(StartUp, TheSplashComesLastOverARunningTimer) {
     application_ = std::make_unique<Application>(
-        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, [] {}});
+        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [] {}});
     bool timerRan = false;
     bool browserUp = false;
     Window().Views().frmSplash = [&] {
@@ -112,9 +112,9 @@ TEST_F(StartUp, AnUnreadableRecentFileStopsWithABoxAndTheWindowStays) {
     EXPECT_FALSE(Window().Timer().Enabled());
 }
 
-TEST_F(StartUp, TheBrowserIsActiveAndBelowEverything) {
+TEST_F(StartUp, TheStatusTableIsActiveOverTheLoadedBrowser) {
     Start();
-    EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmMain");
+    EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmStatusTable");
     EXPECT_TRUE(Window().Browser().gFormLoaded);
-    EXPECT_EQ(gPrintContext, PrintContext::Browser);
+    EXPECT_EQ(gPrintContext, PrintContext::StatusTable);
 }

@@ -119,6 +119,8 @@ int ScriptedPort::AnswerOfBoard(int byte) {
 }
 
 QByteArray ScriptedPort::Input() {
+    if (withholdsInput_)
+        return QByteArray();
     const int waiting = InBufferCount();
     const int wanted = inputLen_ == 0 ? waiting : std::min(inputLen_, waiting);
     QByteArray bytes;

@@ -33,6 +33,8 @@ public:
     void RefusePortNumbers(int times) { portNumberRefusals_ = times; }
     /// Each byte sent raises this error number; 0 ends that.
     void RefuseOutput(int errorNumber) { outputError_ = errorNumber; }
+    /// Input gives nothing although bytes wait.
+    void WithholdInput(bool on) { withholdsInput_ = on; }
 
     /// Bytes sent so far, in order.
     const std::vector<int>& Sent() const { return sent_; }
@@ -75,6 +77,7 @@ private:
     bool attended_ = false; // the byte sent last was an attention
     int bytesUntilLoss_ = -1;
     int outputError_ = 0;
+    bool withholdsInput_ = false;
     int commPort_ = 1;
     int inputLen_ = 0;
     QString settings_;

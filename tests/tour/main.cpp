@@ -2,10 +2,15 @@
 #include "base/ApplicationFolder.h"
 #include "base/Drives.h"
 #include "base/port/SerialMSComm.h"
+#include "base/port/SystemSerialPorts.h"
+#include "base/ProcessStart.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
 #include "tour/BoardProcess.h"
+#include "tour/DataTransferTour.h"
 #include "tour/MainJobTour.h"
+#include "tour/StatusTableTour.h"
+#include "tour/TargetBoardTour.h"
 #include "tour/TourGuide.h"
 #include "tour/TourSetting.h"
 #include <cstdio>
@@ -35,11 +40,16 @@ int RunTour(const QString& output) {
     PaintedBusyDisplay busy;
     SystemDrives drives;
     SerialMSComm port(clock, folder);
+    const SystemSerialPorts ports(folder);
+    SystemProcessStart tools;
     Application application(
-        {clock, dialogs, busy, port, folder, drives, [] { QApplication::exit(); }});
+        {clock, dialogs, busy, port, folder, drives, ports, tools, [] { QApplication::exit(); }});
     application.Start();
     TourGuide guide(application.MainWindow(), output);
     AddMainJob(guide, application.MainWindow(), board);
+    AddDataTransfers(guide, application.MainWindow(), board, setting);
+    AddStatusTable(guide, application.MainWindow(), board, setting);
+    AddTargetBoard(guide, application.MainWindow(), board);
     guide.Start();
     return QApplication::exec();
 }
@@ -58,6 +68,7 @@ void ChooseScreen() {
 /// quentor-tour FOLDER [--dark]: pictures and transcript go to FOLDER.
 int main(int argc, char** argv) {
     ChooseScreen();
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // the tour's hand knows Qt's own
     QApplication qt(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

@@ -21,6 +21,7 @@ void ForgetGlobals() {
     gCurrentFile.clear();
     gCurrentFiles.clear();
     gCurrentDrive.clear();
+    gNewFileAccepted = false;
     gPrintContext = PrintContext::Browser;
 }
 
@@ -71,8 +72,8 @@ WholeWindow::~WholeWindow() {
 }
 
 void WholeWindow::Start() {
-    application_ = std::make_unique<Application>(
-        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, [this] { ++ended_; }});
+    application_ = std::make_unique<Application>(Platform{
+        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [this] { ++ended_; }});
     application_->Start();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
 }

@@ -6,7 +6,9 @@
 #include "board/Line.h"
 #include "board/SimulatedBoard.h"
 #include "support/gui/WatchedPort.h"
+#include "support/RecordedStarts.h"
 #include "support/ScriptedDialogs.h"
+#include "support/ScriptedSerialPorts.h"
 #include "support/VirtualClock.h"
 #include <gtest/gtest.h>
 #include <memory>
@@ -86,6 +88,8 @@ protected:
     WatchedPort port_{clock_, line_};
     NoBusyDisplay busy_;
     ScriptedDrives drives_;
+    ScriptedSerialPorts ports_;
+    RecordedStarts tools_;
     std::unique_ptr<ApplicationFolder> folder_;
     std::unique_ptr<Application> application_;
     int ended_ = 0; ///< how often the program was ended

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "bench/Row.h"
+
+namespace bench {
+
+/// Milliseconds from the command that opens a table file of 32,000 lines to its rows on the screen,
+/// and how the time grows from 16,000 lines on; medians. Needs a QApplication.
+std::vector<Row> MeasureTableOpening();
+
+/// Milliseconds of processor time a second that the whole program takes, offline with a table that
+/// shows the data file, while nothing changes. Needs a QApplication.
+Row MeasureOfflineTable();
+
+} // namespace bench

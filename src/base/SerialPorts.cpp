@@ -1,0 +1,3 @@
+#include "base/SerialPorts.h"
+
+SerialPorts::~SerialPorts() = default;
