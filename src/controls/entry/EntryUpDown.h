@@ -14,6 +14,8 @@ public:
     /// Both the box and the arrows are the view's; `buddy` must live as long as the arrows.
     explicit EntryUpDown(QLineEdit& buddy, QWidget* parent = nullptr);
 
+    int Min() const { return range_.min; }
+    int Max() const { return range_.max; }
     EntryRange Range() const { return range_; }
     void SetRange(int min, int max) { range_ = {min, max}; }
     /// The number that was set or stepped to last.
