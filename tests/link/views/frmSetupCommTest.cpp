@@ -253,7 +253,7 @@ TEST_F(SetupComm, TestAsksTheBoardOnTheShownPort) {
     port.AnswerLikeBoard(true);
     Click("cmdTest");
     EXPECT_TRUE(Outcome().startsWith(QStringLiteral("COM33 at 19200 baud: a board answered in ")))
-        << Outcome();
+        << Outcome().toStdString();
     EXPECT_EQ(port.Sent(), std::vector<int>{0xFF});
     EXPECT_FALSE(port.PortOpen());
     EXPECT_TRUE(Stored().isEmpty());
@@ -286,7 +286,7 @@ TEST_F(SetupComm, TestClosesAPortThatAFailureHasLeftOpen) {
     link.SetCommError(true);
     Open();
     Click("cmdTest");
-    EXPECT_TRUE(Outcome().contains(QStringLiteral("a board answered"))) << Outcome();
+    EXPECT_TRUE(Outcome().contains(QStringLiteral("a board answered"))) << Outcome().toStdString();
     EXPECT_EQ(port.Sent(), std::vector<int>{0xFF});
     EXPECT_FALSE(port.PortOpen());
 }
