@@ -1,5 +1,6 @@
 #include "statustable/TableBoards.h"
 
+#include "link/TargetBoards.h"
 #include <array>
 
 namespace {
@@ -23,25 +24,6 @@ constexpr std::array<TableBoard, 15> boards{{{0, u"(none)"},
                                              {65, u"T7110"},
                                              {66, u"R6021"},
                                              {68, u"R6500"}}};
-
-QString LimitSwitchBoardName(qint16 board) {
-    switch (board) {
-    case 55:
-        return QStringLiteral("K2041");
-    case 62:
-        return QStringLiteral("R6020(PLS)");
-    case 63:
-        return QStringLiteral("R6040");
-    case 64:
-        return QStringLiteral("R6041");
-    case 67:
-        return QStringLiteral("R6021(PLS)");
-    case 69:
-        return QStringLiteral("R6500(PLS)");
-    default:
-        return QString();
-    }
-}
 } // namespace
 
 QStringList TableBoardNames() {
@@ -63,8 +45,8 @@ std::optional<int> ListEntryOfBoard(qint16 board) {
 }
 
 QString RefusedBoardMessage(qint16 board) {
-    const QString name = LimitSwitchBoardName(board);
-    if (name.isEmpty())
+    if (!IsPLSBoard(board))
         return QStringLiteral("Inappropriate or Unrecognized Target Board Type.");
-    return QStringLiteral("Unable to View NicNames or Data for Target Board %1.").arg(name);
+    return QStringLiteral("Unable to View NicNames or Data for Target Board %1.")
+        .arg(TargetboardName(board));
 }

@@ -6,7 +6,6 @@
 /// Ident of the program in a board: ten bytes from B61424 up.
 namespace BoardIdent {
 constexpr int firstAddress = 61424;
-constexpr int nameLength = 8; ///< characters, one per byte
 constexpr int checksumOffset = 8;
 constexpr int revisionOffset = 9;
 constexpr int length = 10;

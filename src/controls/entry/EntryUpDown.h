@@ -17,8 +17,6 @@ public:
     int Min() const { return range_.min; }
     int Max() const { return range_.max; }
     EntryRange Range() const { return range_; }
-    void SetMin(int min) { range_.min = min; }
-    void SetMax(int max) { range_.max = max; }
     void SetRange(int min, int max) { range_ = {min, max}; }
     /// The number that was set or stepped to last.
     int Value() const { return value_; }

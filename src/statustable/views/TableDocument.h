@@ -10,7 +10,7 @@ class TableEditor;
 struct TableFile;
 struct TableState;
 
-/// What the document shows outside the grid.
+/// What the work on table files shows outside the grid.
 class TableDocumentView {
 public:
     virtual ~TableDocumentView();
