@@ -35,7 +35,7 @@ std::vector<Measurement> Measurements() {
         {QStringLiteral("exchanges"), [] { return std::vector{bench::MeasureExchanges()}; }},
         {QStringLiteral("reads"), [board] { return bench::MeasurePacedReads(board); }},
         {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
-        {QStringLiteral("upload"), [board] { return std::vector{bench::MeasureUpload(board)}; }},
+        {QStringLiteral("upload"), [board] { return bench::MeasureUpload(board); }},
         {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
         {QStringLiteral("table"), [board] { return bench::MeasureTableRefresh(board); }},
         {QStringLiteral("typing"), [board] { return std::vector{bench::MeasureTyping(board)}; }},
