@@ -1,8 +1,10 @@
 #include "bench/BareLoop.h"
 
+#include "base/Clock.h"
 #include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
+#include <stdexcept>
 #include <system_error>
 #include <unistd.h>
 
@@ -30,6 +32,17 @@ int BareLoop::Exchange(std::uint8_t byte) {
         return -1;
     std::uint8_t reply = 0;
     return read(handle_, &reply, 1) == 1 ? reply : -1;
+}
+
+double BareLoop::ReadsPerSecond(std::uint16_t address, int reads) {
+    const auto high = static_cast<std::uint8_t>(address >> 8);
+    const auto low = static_cast<std::uint8_t>(address & 0xFF);
+    const SystemClock clock;
+    const double start = clock.MonotonicSeconds();
+    for (int i = 0; i < reads; ++i)
+        if (Exchange(high) != high || Exchange(low) < 0)
+            throw std::runtime_error("wrong answer in the bare loop");
+    return reads / (clock.MonotonicSeconds() - start);
 }
 
 } // namespace bench

@@ -18,6 +18,10 @@ public:
     /// Sends a byte and waits up to a second for one; -1 when none came.
     int Exchange(std::uint8_t byte);
 
+    /// Reads a byte of a board in read mode `reads` times and gives the reads per second. Raises
+    /// std::runtime_error when the board answers wrongly.
+    double ReadsPerSecond(std::uint16_t address, int reads);
+
 private:
     int handle_ = -1;
 };

@@ -34,15 +34,14 @@ bool IsReached(const Row& row) {
     return row.ratio >= row.goal;
 }
 
-QString TableText(const std::vector<Row>& rows) {
-    QString text =
-        Line(QStringLiteral("name"), QStringLiteral("value"), QStringLiteral("reference"),
-             QStringLiteral("ratio"), QStringLiteral("goal"), QStringLiteral("ok?"));
-    for (const Row& row : rows)
-        text += Line(row.name, Number(row.value, 1), Number(row.reference, 1), Number(row.ratio, 3),
-                     Number(row.goal, 2),
-                     IsReached(row) ? QStringLiteral("yes") : QStringLiteral("NO"));
-    return text;
+QString HeadText() {
+    return Line(QStringLiteral("name"), QStringLiteral("value"), QStringLiteral("reference"),
+                QStringLiteral("ratio"), QStringLiteral("goal"), QStringLiteral("ok?"));
+}
+
+QString RowText(const Row& row) {
+    return Line(row.name, Number(row.value, 1), Number(row.reference, 1), Number(row.ratio, 3),
+                Number(row.goal, 2), IsReached(row) ? QStringLiteral("yes") : QStringLiteral("NO"));
 }
 
 } // namespace bench

@@ -24,7 +24,9 @@ Row RowOfLimit(const QString& name, double value, double limit);
 /// True when the row reaches its goal.
 bool IsReached(const Row& row);
 
-/// The table, a line per row below a line of headings.
-QString TableText(const std::vector<Row>& rows);
+/// The line of headings of the table.
+QString HeadText();
+/// A row as a line of the table.
+QString RowText(const Row& row);
 
 } // namespace bench

@@ -36,22 +36,31 @@ QString WriteTable(const BenchProgram& program, int lines) {
     return path;
 }
 
-double OpeningTime(BenchProgram& program, const QString& path, int lines) {
-    program.dialogs.ExpectOpen(path);
-    Grid& grid = program.TableGrid();
-    const auto opened = [&] { return grid.Rows() == firstDataRow + lines + 1; };
-    const double seconds = SecondsUntilShown(
-        *grid.viewport(), [&] { program.Table().OpenStatusTable(); }, opened);
-    if (grid.TextMatrix(grid.Rows() - 2, TableColumn::Address).isEmpty())
-        throw std::runtime_error("the table is not whole");
-    program.Run(0.1);
-    return seconds * 1000;
-}
-
 double ProcessorSeconds() {
     timespec time{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
     return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
+}
+
+struct Opening {
+    double milliseconds;
+    double processorMilliseconds;
+};
+
+Opening Open(BenchProgram& program, const QString& path, int lines) {
+    program.dialogs.ExpectOpen(path);
+    Grid& grid = program.TableGrid();
+    const int lastRow = firstDataRow + lines - 1;
+    const auto opened = [&] {
+        return grid.Rows() == lastRow + 2 &&
+               !grid.TextMatrix(lastRow, TableColumn::Address).isEmpty();
+    };
+    const double before = ProcessorSeconds();
+    const double seconds = SecondsUntilShown(
+        *grid.viewport(), [&] { program.Table().OpenStatusTable(); }, opened);
+    const double processorSeconds = ProcessorSeconds() - before;
+    program.Run(0.1);
+    return {seconds * 1000, processorSeconds * 1000};
 }
 
 void ShowDataFile(BenchProgram& program) {
@@ -59,6 +68,8 @@ void ShowDataFile(BenchProgram& program) {
     WriteFile(path, "2\r\n");
     WriteDataPairs(program.directory.filePath(QStringLiteral("PUMP1.ldt")),
                    QStringList(dataBytes, QStringLiteral("5:")));
+    for (const char* names : {"PUMP1.nam", "PUMP1.doc"})
+        WriteFile(program.directory.filePath(QLatin1String(names)), "\r\n");
     program.dialogs.ExpectOpen(path);
     program.Table().SelectStatusTableProgram();
     program.Table().findChild<QCheckBox*>(QStringLiteral("chkViewOffline"))->setChecked(true);
@@ -72,16 +83,18 @@ std::vector<Row> MeasureTableOpening() {
     BenchProgram program;
     const QString many = WriteTable(program, manyLines);
     const QString half = WriteTable(program, manyLines / 2);
-    std::vector<double> timesOfMany;
-    std::vector<double> timesOfHalf;
+    std::vector<double> times;
+    std::vector<double> growths;
     for (int i = 0; i < openings; ++i) {
-        timesOfMany.push_back(OpeningTime(program, many, manyLines));
-        timesOfHalf.push_back(OpeningTime(program, half, manyLines / 2));
+        const Opening openingOfHalf = Open(program, half, manyLines / 2);
+        const Opening opening = Open(program, many, manyLines);
+        times.push_back(opening.milliseconds);
+        growths.push_back(opening.processorMilliseconds / openingOfHalf.processorMilliseconds);
     }
-    const double growth = Median(timesOfMany) / Median(timesOfHalf);
-    return {RowOfLimit(QStringLiteral("ms to open a table of 32,000 lines : limit"),
-                       Median(timesOfMany), longestOpening),
-            {QStringLiteral("  times as long as one of 16,000 : 2"), growth, 2, 2 / growth,
+    const double growth = Median(growths);
+    return {RowOfLimit(QStringLiteral("ms to open a table of 32,000 lines : limit"), Median(times),
+                       longestOpening),
+            {QStringLiteral("  CPU times that of 16,000 lines : 2"), growth, 2, 2 / growth,
              goalOfGrowth}};
 }
 

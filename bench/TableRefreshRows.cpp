@@ -4,7 +4,6 @@
 #include "bench/BenchProgram.h"
 #include "bench/BoardProcess.h"
 #include "bench/Median.h"
-#include <stdexcept>
 
 namespace bench {
 
@@ -28,15 +27,6 @@ double RowsPerSecond(BenchProgram& program) {
     const double seconds = program.clock.MonotonicSeconds() - start;
     return double(program.port.Sent(first, last) - before) / seconds;
 }
-
-// The board is in read mode, where the program has put it.
-double BareReadsPerSecond(BareLoop& bare, const Clock& clock) {
-    const double start = clock.MonotonicSeconds();
-    for (int i = 0; i < bareReads; ++i)
-        if (bare.Exchange(0) != 0 || bare.Exchange(first) < 0)
-            throw std::runtime_error("wrong answer in the bare loop");
-    return bareReads / (clock.MonotonicSeconds() - start);
-}
 } // namespace
 
 std::vector<Row> MeasureTableRefresh(const QString& board) {
@@ -50,7 +40,7 @@ std::vector<Row> MeasureTableRefresh(const QString& board) {
     std::vector<double> bareRates;
     for (int slice = 0; slice < slices; ++slice) {
         rates.push_back(RowsPerSecond(program));
-        bareRates.push_back(BareReadsPerSecond(bare, program.clock));
+        bareRates.push_back(bare.ReadsPerSecond(first, bareReads));
     }
     program.CheckOnline();
     constexpr double line = 1 / (byteTimesOfRow * byteTime);

@@ -10,6 +10,7 @@
 #include <condition_variable>
 #include <mutex>
 #include <QCoreApplication>
+#include <QInputDevice>
 #include <QKeyEvent>
 #include <random>
 #include <stdexcept>
@@ -103,6 +104,7 @@ Row MeasureTyping(const QString& board) {
     Grid& grid = program.TableGrid();
     grid.SetCell(typedRow, TableColumn::Address);
     program.Run(0.5);
+    QInputDevice::primaryKeyboard(); // made by the first key event, which would be the thread's
     QEventLoop events;
     Typist typist(grid, program.clock, events);
     const PaintWatch watch(*grid.viewport(),

@@ -9,7 +9,6 @@
 #include "bench/TableRefreshRows.h"
 #include "bench/TypingRow.h"
 #include "bench/UploadRow.h"
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -35,7 +34,7 @@ std::vector<Measurement> Measurements() {
         {QStringLiteral("exchanges"), [] { return std::vector{bench::MeasureExchanges()}; }},
         {QStringLiteral("reads"), [board] { return bench::MeasurePacedReads(board); }},
         {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
-        {QStringLiteral("upload"), [board] { return std::vector{bench::MeasureUpload(board)}; }},
+        {QStringLiteral("upload"), [board] { return bench::MeasureUpload(board); }},
         {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
         {QStringLiteral("table"), [board] { return bench::MeasureTableRefresh(board); }},
         {QStringLiteral("typing"), [board] { return std::vector{bench::MeasureTyping(board)}; }},
@@ -46,14 +45,25 @@ std::vector<Measurement> Measurements() {
          [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
 }
 
-// Runs those that are named, or all.
-std::vector<bench::Row> Measure(const QStringList& names) {
-    std::vector<bench::Row> rows;
-    for (const auto& [name, measure] : Measurements())
-        if (names.isEmpty() || names.contains(name))
-            for (const bench::Row& row : measure())
-                rows.push_back(row);
-    return rows;
+void Print(const QString& text) {
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+    std::fflush(stdout);
+}
+
+// Runs those that are named, or all, and prints each row as soon as it is there. True when all
+// goals are reached.
+bool Measure(const QStringList& names) {
+    bool allReached = true;
+    Print(bench::HeadText());
+    for (const auto& [name, measure] : Measurements()) {
+        if (!names.isEmpty() && !names.contains(name))
+            continue;
+        for (const bench::Row& row : measure()) {
+            Print(bench::RowText(row));
+            allReached = allReached && bench::IsReached(row);
+        }
+    }
+    return allReached;
 }
 
 // Bytes are paced by time-outs and handed over by threads that must get a processor in time: what
@@ -72,10 +82,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     try {
         PrintMachine();
-        const auto rows = Measure(application.arguments().mid(1));
-        std::fputs(bench::TableText(rows).toLocal8Bit().constData(), stdout);
-        return std::all_of(rows.begin(), rows.end(), bench::IsReached) ? EXIT_SUCCESS
-                                                                       : EXIT_FAILURE;
+        return Measure(application.arguments().mid(1)) ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "quentor-bench: %s\n", failure.what());
         return EXIT_FAILURE;
