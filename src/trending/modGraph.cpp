@@ -106,7 +106,8 @@ void modGraph::DrawGraphData(const std::vector<qint32>& samples, int colour) {
     surface_->SetFontBold(false);
     surface_->SetFontUnderline(false);
     DrawYLabels(range);
-    DrawXLabels(std::max(static_cast<int>(samples.size()) - 1, 0));
+    steps_ = std::max(static_cast<int>(samples.size()) - 1, 0);
+    DrawXLabels(steps_);
     surface_->SetDrawWidth(1);
     surface_->SetDrawStyle(DrawStyle::Solid);
     surface_->SetForeColor(colour);
@@ -139,14 +140,22 @@ void modGraph::DrawXLabels(int steps) {
 void modGraph::DrawValues(const std::vector<qint32>& samples, const ValueRange& range) {
     if (samples.size() < 2)
         return;
-    const int steps = static_cast<int>(samples.size()) - 1;
-    xScale_ = static_cast<float>(plotWidth_) / static_cast<float>(steps);
+    xScale_ = static_cast<float>(plotWidth_) / static_cast<float>(steps_);
     yScale_ =
         static_cast<float>(static_cast<double>(plotHeight_) / static_cast<double>(range.Extent()));
-    const auto xOf = [&](int i) { return RoundToWhole(originX_ + i * double(xScale_)); };
     const auto yOf = [&](int i) {
         return RoundToWhole(originY_ - double(samples[i] - range.lowest) * double(yScale_));
     };
-    for (int i = 0; i < steps; ++i)
-        surface_->Line(xOf(i), yOf(i), xOf(i + 1), yOf(i + 1));
+    for (int i = 0; i < steps_; ++i)
+        surface_->Line(XOf(i), yOf(i), XOf(i + 1), yOf(i + 1));
+}
+
+int modGraph::XOf(int sample) const {
+    return RoundToWhole(originX_ + sample * double(xScale_));
+}
+
+std::optional<int> modGraph::SampleAt(double x) const {
+    if (steps_ == 0 || plotWidth_ <= 0 || x < originX_ || x > originX_ + plotWidth_)
+        return std::nullopt;
+    return std::clamp(RoundToWhole((x - originX_) / plotWidth_ * steps_), 0, steps_);
 }

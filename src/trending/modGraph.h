@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <QtGlobal>
 #include <vector>
 
@@ -20,6 +21,12 @@ public:
     void DrawGraphData(const std::vector<qint32>& samples, int colour);
     /// The surface is gone.
     void Forget() { surface_ = nullptr; }
+
+    /// The sample that is drawn nearest to `x` (twips), for a look at its value; none outside the
+    /// plot and while no line is drawn.
+    std::optional<int> SampleAt(double x) const;
+    /// Where a sample stands, in twips.
+    int XOf(int sample) const;
 
     /// What the frame left: the plot's left bottom corner and its size.
     int OriginX() const { return originX_; }
@@ -42,6 +49,7 @@ private:
     void DrawValues(const std::vector<qint32>& samples, const ValueRange& range);
 
     DrawingSurface* surface_ = nullptr;
+    int steps_ = 0; // samples drawn last, less one
     int originX_ = 0;
     int originY_ = 0;
     int plotWidth_ = 0;

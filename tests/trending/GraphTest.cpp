@@ -187,3 +187,15 @@ TEST(Graph, DataWithoutAFrameDrawsNothing) {
     graph.DrawGraphData({1, 2}, PaletteColour::Black);
     EXPECT_EQ(graph.PlotWidth(), 0);
 }
+
+TEST(Graph, TheSampleUnderAPlaceIsTheNearestOne) {
+    GraphUnderTest test(10000, 5705);
+    EXPECT_EQ(test.graph.SampleAt(5000), std::nullopt);
+    test.graph.DrawGraphData({100, 0, 50, 25}, PaletteColour::LightBlue);
+    EXPECT_EQ(test.graph.SampleAt(899), std::nullopt);
+    EXPECT_EQ(test.graph.SampleAt(900), 0);
+    EXPECT_EQ(test.graph.SampleAt(3700), 1);
+    EXPECT_EQ(test.graph.SampleAt(9700), 3);
+    EXPECT_EQ(test.graph.SampleAt(9701), std::nullopt);
+    EXPECT_EQ(test.graph.XOf(1), 3833);
+}
