@@ -1,0 +1,84 @@
+#include "reports/views/PrinterSurface.h"
+
+#include "base/RunTimeError.h"
+#include <QColor>
+#include <QPageLayout>
+#include <QPrinterInfo>
+
+namespace {
+constexpr double twipsPerInch = 1440.0;
+constexpr double twipsPerPoint = 20.0;
+constexpr double pdfMargin = 0.25; // inches; what office printers cannot reach
+} // namespace
+
+PrinterSurface::PrinterSurface(const PrinterChoice& choice, PaperOrientation orientation)
+    : printer_(QPrinter::HighResolution) {
+    if (!choice.printerName.isEmpty())
+        printer_.setPrinterName(choice.printerName);
+    printer_.setCopyCount(choice.copies);
+    printer_.setPageOrientation(orientation == PaperOrientation::Landscape ? QPageLayout::Landscape
+                                                                           : QPageLayout::Portrait);
+    if (choice.outputFile.isEmpty())
+        return;
+    printer_.setOutputFormat(QPrinter::PdfFormat);
+    printer_.setOutputFileName(choice.outputFile);
+    printer_.setPageMargins(QMarginsF(pdfMargin, pdfMargin, pdfMargin, pdfMargin),
+                            QPageLayout::Inch);
+}
+
+PrinterSurface::~PrinterSurface() {
+    if (painter_.isActive())
+        printer_.abort();
+}
+
+double PrinterSurface::WidthInTwips() const {
+    return printer_.pageLayout().paintRect(QPageLayout::Point).width() * twipsPerPoint;
+}
+
+double PrinterSurface::HeightInTwips() const {
+    return printer_.pageLayout().paintRect(QPageLayout::Point).height() * twipsPerPoint;
+}
+
+double PrinterSurface::TextWidthInTwips(const QString& text) const {
+    return metrics_.Width(text, Font());
+}
+
+double PrinterSurface::TextHeightInTwips(const QString& text) const {
+    return metrics_.Height(text, Font());
+}
+
+QPainter& PrinterSurface::Painter() {
+    if (!painter_.isActive()) {
+        if (!printer_.isValid() || !painter_.begin(&printer_))
+            throw RunTimeError(ErrorNumber::DeviceUnavailable);
+        const double scale = printer_.resolution() / twipsPerInch;
+        painter_.scale(scale, scale);
+    } else if (pageWanted_ && !printer_.newPage()) {
+        throw RunTimeError(ErrorNumber::DeviceIOError);
+    }
+    pageWanted_ = false;
+    return painter_;
+}
+
+void PrinterSurface::DrawLine(double x1, double y1, double x2, double y2) {
+    PaintLine(Painter(), {x1, y1, x2, y2, Pen()}, PaperColour);
+}
+
+void PrinterSurface::DrawTextAt(double x, double y, const QString& text) {
+    PaintText(Painter(), {x, y, text, Font(), Pen().colour}, PaperColour);
+}
+
+void PrinterSurface::EndDoc() {
+    if (painter_.isActive() && (!painter_.end() || printer_.printerState() == QPrinter::Error))
+        throw RunTimeError(ErrorNumber::DeviceIOError);
+}
+
+QString SystemPrinter::DeviceName() const {
+    if (!choice_.outputFile.isEmpty())
+        return choice_.outputFile;
+    return choice_.printerName.isEmpty() ? QPrinterInfo::defaultPrinterName() : choice_.printerName;
+}
+
+std::unique_ptr<PagedSurface> SystemPrinter::OpenDocument(PaperOrientation orientation) {
+    return std::make_unique<PrinterSurface>(choice_, orientation);
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "base/Dialogs.h"
+#include "reports/ReportPrinter.h"
+#include "reports/views/SurfacePainting.h"
+#include <QPainter>
+#include <QPrinter>
+
+/// A document on a printer or in a PDF file, black on white. The sheet is the part of the paper
+/// that can be printed on.
+class PrinterSurface final : public PagedSurface {
+public:
+    PrinterSurface(const PrinterChoice& choice, PaperOrientation orientation);
+    ~PrinterSurface() override;
+
+    void EndDoc() override;
+
+protected:
+    double WidthInTwips() const override;
+    double HeightInTwips() const override;
+    double TextWidthInTwips(const QString& text) const override;
+    double TextHeightInTwips(const QString& text) const override;
+    void ClearSheet(bool) override {} // what is on paper stays
+    void DrawLine(double x1, double y1, double x2, double y2) override;
+    void DrawTextAt(double x, double y, const QString& text) override;
+    void BeginNextPage() override { pageWanted_ = true; }
+
+private:
+    QPainter& Painter();
+
+    QtTextMetrics metrics_;
+    QPrinter printer_;
+    QPainter painter_;
+    bool pageWanted_ = false;
+};
+
+/// The printers of the system: the default one until the user chose another.
+class SystemPrinter final : public ReportPrinter {
+public:
+    QString DeviceName() const override;
+    void UsePrinter(const PrinterChoice& choice) override { choice_ = choice; }
+    std::unique_ptr<PagedSurface> OpenDocument(PaperOrientation orientation) override;
+
+private:
+    PrinterChoice choice_;
+};
