@@ -5,6 +5,7 @@
 #include "tour/Hand.h"
 #include "tour/TourGuide.h"
 #include <QListView>
+#include <QRegularExpression>
 #include <QTreeView>
 
 namespace {
@@ -51,7 +52,11 @@ void AddDump(TourGuide& guide, frmMDIMain& window) {
     guide.AnswerBox(question, QStringLiteral("Yes"), QStringLiteral("question"));
     guide.Stop(
         QStringLiteral("the progress shows an address"),
-        [] { return Hand::BusyText().startsWith(QLatin1String("Writing to Program Address: ")); },
+        [] {
+            static const QRegularExpression text(
+                QStringLiteral("^Writing to Program Address: 5[0-9A-F]{3}H$"));
+            return text.match(Hand::BusyText()).hasMatch();
+        },
         [] {}, 60.0);
     guide.Picture(QStringLiteral("dump"));
     guide.Stop(

@@ -1,5 +1,6 @@
 #include "tour/TourGuide.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <QApplication>
 #include <QDir>
@@ -15,13 +16,22 @@ namespace {
 constexpr int lookInterval = 50; // milliseconds
 constexpr int titleHeight = 24;  // pixels at 100 per cent
 
-// Windows from the bottom up: the main window, then the open boxes and dialogs.
+int Depth(const QWidget* window) {
+    const QWidget* parent = window->parentWidget();
+    return parent ? 1 + Depth(parent->window()) : 0;
+}
+
+// Windows from the bottom up: the main window, then the open boxes and dialogs, each above the
+// window that it belongs to.
 QList<QWidget*> WindowsOnScreen(QWidget& mainWindow) {
     QList<QWidget*> windows{&mainWindow};
     const QWidgetList topLevels = QApplication::topLevelWidgets();
     for (QWidget* window : topLevels)
         if (window != &mainWindow && window->isVisible() && window->windowType() != Qt::ToolTip)
             windows.append(window);
+    std::stable_sort(
+        windows.begin(), windows.end(),
+        [](const QWidget* below, const QWidget* above) { return Depth(below) < Depth(above); });
     return windows;
 }
 

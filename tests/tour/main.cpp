@@ -56,12 +56,14 @@ int RunTour(const QString& output) {
 } // namespace
 
 namespace {
-// Without a display the tour has a screen of 1280 x 800 pixels, as small as the program is used on.
+// Without a display the tour has a screen of 1280 x 800 pixels, as small as the program is used on,
+// and of four times as many where everything is drawn at 200 per cent.
 void ChooseScreen() {
-    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    if (platform == "offscreen")
-        qputenv("QT_QPA_PLATFORM",
-                "offscreen:configfile=" QUENTOR_SOURCE_FOLDER "/tests/tour/screen.json");
+    if (qgetenv("QT_QPA_PLATFORM") != "offscreen")
+        return;
+    const QByteArray screen = qgetenv("QT_SCALE_FACTOR") == "2" ? "screen-200" : "screen";
+    qputenv("QT_QPA_PLATFORM",
+            "offscreen:configfile=" QUENTOR_SOURCE_FOLDER "/tests/tour/" + screen + ".json");
 }
 } // namespace
 

@@ -20,6 +20,7 @@
 namespace {
 constexpr int standardOption = 0;
 constexpr int rangeOption = 1;
+constexpr int roomBesideCaption = 80; // pixels of the title bar for its icon and buttons
 
 QString Indexed(const char* name, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
@@ -40,9 +41,10 @@ frmDataXfr::frmDataXfr(Dialogs& dialogs, const FileSystem& files, JobRunner& job
     setObjectName(QStringLiteral("frmDataXfr"));
     setModal(true);
     BuildForm();
-    CenterForm(*this);
     const bool exists = files.FileExists(gHdnFile);
     setWindowTitle(TransferCaption(gXferMode, exists ? files.GetFileName(gHdnFile) : QString()));
+    setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + roomBesideCaption);
+    CenterForm(*this);
 }
 
 void frmDataXfr::BuildForm() {
