@@ -18,7 +18,8 @@ constexpr qint16 board = 50;
 constexpr double settleTime = 0.3; // seconds
 } // namespace
 
-BenchProgram::BenchProgram() : application({clock, dialogs, busy, port, folder, drives, [] {}}) {
+BenchProgram::BenchProgram()
+    : application({clock, dialogs, busy, port, folder, drives, ports, tools, [] {}}) {
     gHdnFile.clear();
     application.MainWindow().Views().frmSplash = nullptr; // waits for a user
     application.Start();

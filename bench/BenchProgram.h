@@ -5,6 +5,8 @@
 #include "base/Clock.h"
 #include "base/Drives.h"
 #include "base/port/SerialMSComm.h"
+#include "base/port/SystemSerialPorts.h"
+#include "base/ProcessStart.h"
 #include "bench/BenchDialogs.h"
 #include "bench/CountingPort.h"
 #include <QTemporaryDir>
@@ -40,6 +42,8 @@ public:
     SystemClock clock;
     NoBusyDisplay busy;
     SystemDrives drives;
+    const SystemSerialPorts ports{folder};
+    SystemProcessStart tools;
     QTemporaryDir directory;
     ApplicationFolder folder{directory.path()};
     SerialMSComm serial{clock, folder};
