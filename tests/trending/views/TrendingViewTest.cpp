@@ -100,6 +100,23 @@ TEST_F(TrendingView, ARefusedVariableGoesBackToTheFirstEntryAndKeepsTheFocus) {
     EXPECT_TRUE(Find<QComboBox>("cboAddress").hasFocus());
 }
 
+TEST_F(TrendingView, LeavingTheEntryTakesWhatWasTyped) {
+    QComboBox& entry = Find<QComboBox>("cboAddress");
+    entry.setFocus();
+    entry.setEditText(QStringLiteral("w100"));
+    Find<QCheckBox>("chkAcquire").setFocus();
+    Until([&] { return entry.currentText() == QStringLiteral("W100"); });
+    EXPECT_EQ(view.Acquisition().Variable().Address().toStdString(), "W100");
+}
+
+TEST_F(TrendingView, LeavingTheEntryWithNoVariableKeepsTheFocus) {
+    QComboBox& entry = Find<QComboBox>("cboAddress");
+    entry.setFocus();
+    entry.setEditText(QStringLiteral("X31"));
+    Find<QCheckBox>("chkAcquire").setFocus();
+    Until([&] { return entry.currentText() == TrendVariable::none && entry.hasFocus(); });
+}
+
 TEST_F(TrendingView, EscapeGivesTheTypedTextUp) {
     TypeAddress(QStringLiteral("B40"));
     QComboBox& entry = Find<QComboBox>("cboAddress");
