@@ -6,6 +6,7 @@
 #include "reports/DrawingSurface.h"
 #include "session/Globals.h"
 #include "trending/views/GraphView.h"
+#include <algorithm>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -25,6 +26,7 @@ frmTrending::frmTrending(const Seams& seams, QWidget* parent)
     setWindowTitle(QStringLiteral("Trend Data"));
     tmrTrending_.setSingleShot(true);
     tmrTrending_.setTimerType(Qt::PreciseTimer);
+    showSamples_.setSingleShot(true);
     form_.fgTrend->SetCols(TrendSamples::columns);
     form_.fgTrend->SetFormatString(QStringLiteral("<|<|^"));
     form_.fgTrend->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -41,6 +43,7 @@ frmTrending::~frmTrending() {
 
 void frmTrending::Connect() {
     connect(&tmrTrending_, &QTimer::timeout, this, &frmTrending::Tick);
+    connect(&showSamples_, &QTimer::timeout, this, &frmTrending::ShowSamples);
     connect(form_.cboTargetBoard, &QComboBox::currentIndexChanged, this,
             [this](int entry) { acquisition_.Variable().SelectBoard(entry); });
     connect(form_.cboAddress, &QComboBox::activated, this, [this](int entry) {
@@ -179,12 +182,19 @@ void frmTrending::GiveUpAddress() {
     form_.cmdDefault->setFocus();
 }
 
-void frmTrending::SampleAdded(bool rowRemoved) {
+// Samples come faster than they can be read; showing each would cost the pace of the link.
+void frmTrending::SampleAdded(bool) {
+    if (!showSamples_.isActive())
+        showSamples_.start(GridModel::repaintInterval);
+}
+
+void frmTrending::ShowSamples() {
     const TrendSamples& samples = acquisition_.Samples();
-    form_.fgTrend->AddItem(QStringLiteral(" \t") + samples.Text(1, 1) + u'\t' + samples.Text(1, 2),
-                           1);
-    if (rowRemoved)
-        form_.fgTrend->RemoveItem(TrendSamples::removedRow);
+    form_.fgTrend->SetRows(samples.Rows());
+    const int changed = std::min(samples.Rows() - 1, TrendSamples::removedRow);
+    for (int row = 1; row <= changed; ++row)
+        for (int column = 1; column < TrendSamples::columns; ++column)
+            form_.fgTrend->SetTextMatrix(row, column, samples.Text(row, column));
     Renumber();
     if (form_.chkLiveData->isChecked())
         GraphSamples();

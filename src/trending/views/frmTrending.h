@@ -87,6 +87,7 @@ private:
     void DrawFrame();
     void GraphData();
     void GraphSamples();
+    void ShowSamples();
     void Renumber();
     void SizeGrid();
 
@@ -100,6 +101,7 @@ private:
     TrendingForm form_;
     NumericEntries* entries_;
     QTimer tmrTrending_;
+    QTimer showSamples_; ///< gathers samples that come fast
     int samplesToGraph_ = mostSamplesToGraph;
     bool graphRequested_ = false;
     bool graphDrawn_ = false; ///< the axes have been drawn once

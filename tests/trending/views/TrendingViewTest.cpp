@@ -67,7 +67,7 @@ protected:
         Find<QCheckBox>("chkAcquire").setChecked(true);
     }
     void Until(const std::function<bool()>& condition) {
-        EXPECT_TRUE(QTest::qWaitFor(condition, 5000));
+        EXPECT_TRUE(QTest::qWaitFor(condition, 60000));
     }
     QString Path(const char* name) const { return files.filePath(QString::fromLatin1(name)); }
 
@@ -134,7 +134,7 @@ TEST_F(TrendingView, SamplesOfTheBoardStandInTheGridAndTheCounter) {
     GoOnlineAndAcquire();
     Until([&] { return view.Acquisition().Counter() >= 300; });
     Find<QCheckBox>("chkAcquire").setChecked(false);
-    EXPECT_EQ(Samples().Rows(), 258);
+    Until([&] { return Samples().Rows() == 258; });
     EXPECT_EQ(Samples().TextMatrix(1, 2).toStdString(), "40");
     EXPECT_EQ(Samples().TextMatrix(1, 0).toStdString(), "1");
     EXPECT_EQ(Find<QLabel>("lblSamples").text(), view.Acquisition().CounterText());
