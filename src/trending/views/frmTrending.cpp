@@ -1,0 +1,243 @@
+#include "trending/views/frmTrending.h"
+
+#include "controls/entry/EntryUpDown.h"
+#include "controls/entry/NumericEntries.h"
+#include "controls/grid/Grid.h"
+#include "reports/DrawingSurface.h"
+#include "session/Globals.h"
+#include "trending/views/GraphView.h"
+#include <algorithm>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+TrendingHost::~TrendingHost() = default;
+
+frmTrending::frmTrending(const Seams& seams, QWidget* parent)
+    : QWidget(parent), seams_(seams), acquisition_(seams.link, seams.clock, *this),
+      form_(*this, graph_), entries_(new NumericEntries(
+                                1, seams.dialogs, *form_.cmdDefault,
+                                [](int) { return QStringLiteral("Graphing Samples"); }, this)) {
+    setObjectName(QStringLiteral("frmTrending"));
+    setWindowTitle(QStringLiteral("Trend Data"));
+    tmrTrending_.setSingleShot(true);
+    tmrTrending_.setTimerType(Qt::PreciseTimer);
+    showSamples_.setSingleShot(true);
+    form_.fgTrend->SetCols(TrendSamples::columns);
+    form_.fgTrend->SetFormatString(QStringLiteral("<|<|^"));
+    form_.fgTrend->setContextMenuPolicy(Qt::CustomContextMenu);
+    form_.picGraph->setContextMenuPolicy(Qt::CustomContextMenu);
+    form_.cboAddress->installEventFilter(this);
+    Connect();
+    ConnectGraphEntries();
+    RowsChanged();
+}
+
+frmTrending::~frmTrending() {
+    seams_.loops.Leave(*this);
+}
+
+void frmTrending::Connect() {
+    connect(&tmrTrending_, &QTimer::timeout, this, &frmTrending::Tick);
+    connect(&showSamples_, &QTimer::timeout, this, &frmTrending::ShowSamples);
+    connect(form_.cboTargetBoard, &QComboBox::currentIndexChanged, this,
+            [this](int entry) { acquisition_.Variable().SelectBoard(entry); });
+    connect(form_.cboAddress, &QComboBox::activated, this, [this](int entry) {
+        TakeAddress(acquisition_.Variable().Click(form_.cboAddress->itemText(entry)));
+    });
+    connect(form_.optChangeOfState, &QRadioButton::toggled, this, &frmTrending::SelectOption);
+    connect(form_.cboOptions, &QComboBox::activated, this, [this](int entry) {
+        acquisition_.SelectInterval(entry);
+        form_.cmdDefault->setFocus();
+        seams_.loops.Wake();
+    });
+    connect(form_.chkAcquire, &QCheckBox::toggled, this, [this](bool on) {
+        acquisition_.SetAcquire(on);
+        seams_.loops.Wake();
+    });
+    connect(form_.cmdClear, &QPushButton::clicked, this, [this] { acquisition_.Clear(); });
+    connect(form_.cmdReset, &QPushButton::clicked, this, [this] { acquisition_.ResetCounter(); });
+    connect(form_.fgTrend, &Grid::Scrolled, this, &frmTrending::Renumber);
+    connect(form_.fgTrend, &Grid::Resized, this, &frmTrending::SizeGrid);
+    for (QWidget* place :
+         {static_cast<QWidget*>(form_.fgTrend), static_cast<QWidget*>(form_.picGraph)})
+        connect(place, &QWidget::customContextMenuRequested, this, [this, place](const QPoint& at) {
+            seams_.host.PopUpTrendMenu(place->mapToGlobal(at));
+        });
+}
+
+void frmTrending::ConnectGraphEntries() {
+    form_.updSamples->SetRange(leastSamplesToGraph, mostSamplesToGraph);
+    form_.updSamples->SetValue(mostSamplesToGraph);
+    entries_->Add(0, *form_.txtSamples, *form_.updSamples);
+    const auto take = [this](int, const QString& text) { samplesToGraph_ = text.toInt(); };
+    connect(entries_, &NumericEntries::Accepted, this, take);
+    connect(entries_, &NumericEntries::Stepped, this, take);
+    connect(form_.cmdGraphData, &QPushButton::clicked, this, &frmTrending::GraphData);
+    connect(form_.chkLiveData, &QCheckBox::toggled, this, [this](bool on) {
+        if (on && !graphDrawn_)
+            DrawFrame();
+    });
+}
+
+void frmTrending::Activate() {
+    seams_.host.ShowTrendCommands(true);
+    gPrintContext = PrintContext::Trending;
+    seams_.loops.Activate(*this);
+}
+
+void frmTrending::Deactivate() {
+    seams_.host.ShowTrendCommands(false);
+}
+
+void frmTrending::closeEvent(QCloseEvent* event) {
+    seams_.loops.Leave(*this);
+    seams_.host.ShowTrendCommands(false);
+    QWidget::closeEvent(event);
+}
+
+// The loop draws the graph in its new size.
+void frmTrending::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    graphRequested_ = true;
+    seams_.loops.Wake();
+}
+
+ViewLoop::Step frmTrending::TakeStep() {
+    if (graphRequested_) {
+        graphRequested_ = false;
+        GraphData();
+    }
+    if (firstPass_) {
+        firstPass_ = false;
+        GraphSamples();
+    }
+    return acquisition_.TakeStep();
+}
+
+void frmTrending::TimerChanged() {
+    tmrTrending_.stop();
+    if (const auto milliseconds = acquisition_.TimerMilliseconds())
+        tmrTrending_.start(*milliseconds);
+}
+
+void frmTrending::Tick() {
+    acquisition_.TimerTick();
+    TimerChanged();
+}
+
+void frmTrending::SelectOption() {
+    const bool interval = form_.optTimeInterval->isChecked();
+    form_.cboOptions->setEnabled(interval);
+    acquisition_.SelectOption(interval ? SampleOption::TimeInterval : SampleOption::ChangeOfState);
+    form_.cmdDefault->setFocus();
+    seams_.loops.Wake();
+}
+
+bool frmTrending::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != form_.cboAddress)
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape)
+            GiveUpAddress();
+        else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+            EnterAddress();
+        else
+            return false;
+        return true;
+    }
+    // The first entry is in use already, and "(none)" must not hold the user fast.
+    if (event->type() == QEvent::FocusOut && form_.cboAddress->isVisible() &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason &&
+        form_.cboAddress->currentText() != acquisition_.Variable().FirstEntry())
+        QMetaObject::invokeMethod(this, &frmTrending::EnterAddress, Qt::QueuedConnection);
+    return false;
+}
+
+void frmTrending::EnterAddress() {
+    TakeAddress(acquisition_.Variable().Enter(form_.cboAddress->currentText()));
+}
+
+void frmTrending::TakeAddress(TrendVariable::Entered outcome) {
+    const QSignalBlocker quiet(form_.cboAddress);
+    form_.cboAddress->clear();
+    form_.cboAddress->addItems(acquisition_.Variable().List());
+    form_.cboAddress->setCurrentIndex(0);
+    if (outcome == TrendVariable::Entered::Taken)
+        form_.cmdDefault->setFocus();
+    else
+        form_.cboAddress->setFocus();
+    seams_.loops.Wake();
+}
+
+void frmTrending::GiveUpAddress() {
+    form_.cboAddress->setCurrentIndex(0);
+    form_.cboAddress->setEditText(acquisition_.Variable().FirstEntry());
+    form_.cmdDefault->setFocus();
+}
+
+// Samples come faster than they can be read; showing each would cost the pace of the link.
+void frmTrending::SampleAdded(bool) {
+    if (!showSamples_.isActive())
+        showSamples_.start(GridModel::repaintInterval);
+}
+
+void frmTrending::ShowSamples() {
+    const TrendSamples& samples = acquisition_.Samples();
+    form_.fgTrend->SetRows(samples.Rows());
+    const int changed = std::min(samples.Rows() - 1, TrendSamples::removedRow);
+    for (int row = 1; row <= changed; ++row)
+        for (int column = 1; column < TrendSamples::columns; ++column)
+            form_.fgTrend->SetTextMatrix(row, column, samples.Text(row, column));
+    Renumber();
+    if (form_.chkLiveData->isChecked())
+        GraphSamples();
+}
+
+void frmTrending::RowsChanged() {
+    const TrendSamples& samples = acquisition_.Samples();
+    form_.fgTrend->Clear();
+    form_.fgTrend->SetRows(samples.Rows());
+    for (int row = 0; row < samples.Rows(); ++row)
+        for (int column = row == 0 ? 0 : 1; column < TrendSamples::columns; ++column)
+            form_.fgTrend->SetTextMatrix(row, column, samples.Text(row, column));
+    Renumber();
+}
+
+void frmTrending::Renumber() {
+    for (int row = form_.fgTrend->TopRow(); form_.fgTrend->RowIsVisible(row); ++row)
+        form_.fgTrend->SetTextMatrix(row, 0, acquisition_.Samples().Text(row, 0));
+}
+
+void frmTrending::CounterChanged() {
+    form_.lblSamples->setText(acquisition_.CounterText());
+}
+
+void frmTrending::SizeGrid() {
+    const int digit = form_.fgTrend->fontMetrics().horizontalAdvance(u'0');
+    form_.fgTrend->ShareWidth({1, 4, 4}, {6 * digit, 10 * digit, 11 * digit});
+    Renumber();
+}
+
+void frmTrending::DrawFrame() {
+    graph_.DrawGraphFrame(form_.picGraph->Surface());
+    graphDrawn_ = true;
+    form_.picGraph->update();
+}
+
+void frmTrending::GraphData() {
+    DrawFrame();
+    GraphSamples();
+}
+
+void frmTrending::GraphSamples() {
+    const std::vector<qint32> values = ValuesToGraph(acquisition_.Samples(), samplesToGraph_);
+    graph_.DrawGraphData(values, PaletteColour::LightBlue);
+    form_.picGraph->Show(values);
+}

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "trending/modGraph.h"
+#include "trending/TrendAcquisition.h"
+#include "trending/views/TrendingForm.h"
+#include <QTimer>
+#include <QWidget>
+
+class Clock;
+class Dialogs;
+class JobRunner;
+class NumericEntries;
+class QPoint;
+class ReportPrinter;
+class RSComm;
+class ViewLoopRunner;
+class WaitJobs;
+
+/// What the trend view needs of the main window that it is a child of.
+class TrendingHost {
+public:
+    virtual ~TrendingHost();
+    /// Shows or hides mnuFilePrintTrendData.
+    virtual void ShowTrendCommands(bool shown) = 0;
+    /// Opens mnuTrendingPopup at a place on the screen.
+    virtual void PopUpTrendMenu(const QPoint& place) = 0;
+};
+
+/// The view in which an engineer watches one variable over time: a grid of samples, newest first,
+/// and their graph. A child of the main window, which tells it when it becomes the active one.
+class frmTrending final : public QWidget, private TrendDisplay, private ViewLoop {
+    Q_OBJECT
+public:
+    /// What the view works with; all of it must outlive the view.
+    struct Seams {
+        RSComm& link;
+        const Clock& clock;
+        Dialogs& dialogs;
+        ViewLoopRunner& loops;
+        JobRunner& jobs;
+        ReportPrinter& printer;
+        TrendingHost& host;
+    };
+
+    explicit frmTrending(const Seams& seams, QWidget* parent = nullptr);
+    ~frmTrending() override;
+
+    /// Job 5 prints this view's samples.
+    void RegisterJobs(WaitJobs& jobs);
+
+    /// The view has become the main window's active child.
+    void Activate();
+    /// Another child is active now. Sampling goes on.
+    void Deactivate();
+
+    // Commands, by menu.
+    void OpenTrendData();
+    void SaveTendData();
+    void PrintTrendData();
+    void ExportCsv();
+    /// Puts the graph on the clipboard as a picture.
+    void CopyGraph();
+
+    const TrendAcquisition& Acquisition() const { return acquisition_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // TrendDisplay.
+    void SampleAdded(bool rowRemoved) override;
+    void RowsChanged() override;
+    void CounterChanged() override;
+    void TimerChanged() override;
+    // ViewLoop.
+    Step TakeStep() override;
+
+    void Connect();
+    void ConnectGraphEntries();
+    void Tick();
+    void SelectOption();
+    void EnterAddress();
+    void TakeAddress(TrendVariable::Entered outcome);
+    void GiveUpAddress();
+    void DrawFrame();
+    void GraphData();
+    void GraphSamples();
+    void ShowSamples();
+    void Renumber();
+    void SizeGrid();
+
+    // frmTrendingFiles.cpp: files and printing.
+    void Open(const QString& path);
+    QString FileName() const;
+
+    Seams seams_;
+    modGraph graph_;
+    TrendAcquisition acquisition_;
+    TrendingForm form_;
+    NumericEntries* entries_;
+    QTimer tmrTrending_;
+    QTimer showSamples_; ///< gathers samples that come fast
+    int samplesToGraph_ = mostSamplesToGraph;
+    bool graphRequested_ = false;
+    bool graphDrawn_ = false; ///< the axes have been drawn once
+    bool firstPass_ = true;
+    QString lastPath_; ///< of the file opened or saved last
+};
