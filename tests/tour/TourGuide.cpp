@@ -160,9 +160,13 @@ void TourGuide::TakePicture(const QString& name) {
     QPixmap picture = mainWindow_.grab();
     QPainter painter(&picture);
     const QList<QWidget*> windows = WindowsOnScreen(mainWindow_);
-    for (QWidget* window : windows.mid(1))
-        painter.drawPixmap(window->pos() - mainWindow_.pos() - QPoint(0, titleHeight),
-                           WithTitle(*window));
+    for (QWidget* window : windows.mid(1)) {
+        const QPoint place = window->pos() - mainWindow_.pos();
+        if (window->windowType() == Qt::Popup)
+            painter.drawPixmap(place, window->grab());
+        else
+            painter.drawPixmap(place - QPoint(0, titleHeight), WithTitle(*window));
+    }
     painter.end();
     const QString file = QStringLiteral("%1/%2-%3.png")
                              .arg(folder_)

@@ -9,6 +9,7 @@
 #include "tour/BoardProcess.h"
 #include "tour/DataTransferTour.h"
 #include "tour/MainJobTour.h"
+#include "tour/ProgramSetTour.h"
 #include "tour/StatusTableTour.h"
 #include "tour/TargetBoardTour.h"
 #include "tour/TourGuide.h"
@@ -50,6 +51,7 @@ int RunTour(const QString& output) {
     AddDataTransfers(guide, application.MainWindow(), board, setting);
     AddStatusTable(guide, application.MainWindow(), board, setting);
     AddTargetBoard(guide, application.MainWindow(), board);
+    AddProgramSets(guide, application.MainWindow(), board, setting);
     guide.Start();
     return QApplication::exec();
 }
