@@ -4,7 +4,8 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# Rank of a folder; a folder "views" lies above the core of its subsystem and above the controls.
+# Rank of a folder; a folder "views" lies above all cores and the controls, and among themselves the
+# views stand in the order of their subsystems.
 ranks='base=0 link=1 programset=2 session=3 jobs=4 statustable=5 targetboard=5 pls=5 reports=5
   trending=6 controls=7 views=8 shell=9 app=10'
 
@@ -13,13 +14,13 @@ git grep -n '^#include "' -- 'src/*.h' 'src/*.cpp' | awk -v ranks="$ranks" '
     split(path, part, "/")
     return part[2] == "views" ? part[1] "/views" : part[1]
   }
-  function rank(name) {
-    sub(".*/", "", name)
+  function rank(name, views) {
+    views = sub("/views$", "", name)
     if (!(name in rank_of)) {
       print "scripts/layers.sh does not know the folder " name
       unknown = 1
     }
-    return rank_of[name]
+    return views ? rank_of["views"] + rank_of[name] / 10 : rank_of[name]
   }
   BEGIN {
     for (i = split(ranks, all, " "); i > 0; --i) {
