@@ -9,9 +9,12 @@ namespace {
 constexpr int pathRole = Qt::UserRole;
 constexpr int indent = 14; // pixels from a folder to those inside it
 
-// The nearest existing folder at or above `path`, absolute and clean.
+// The nearest existing folder at or above `path`, absolute and clean; the root folder where nothing
+// is left to stand on, since the current folder of the process itself may have been removed.
 QString ExistingFolder(const QString& path) {
     QDir folder(QDir::cleanPath(QDir::current().absoluteFilePath(path)));
+    if (!folder.isAbsolute())
+        return QDir::rootPath();
     while (!folder.exists() && !folder.isRoot())
         folder.setPath(QFileInfo(folder.path()).path());
     return folder.path();

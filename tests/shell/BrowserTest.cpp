@@ -245,3 +245,13 @@ TEST_F(Browser, AFolderOfManyFilesShowsItsTreeAtOnce) {
     EXPECT_LT(timer.elapsed(), 250);
     EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [SET8]");
 }
+
+TEST_F(Browser, AFolderListMadeInARemovedFolderBeginsAtTheRoot) {
+    const QString before = QDir::currentPath();
+    QTemporaryDir gone;
+    ASSERT_TRUE(QDir::setCurrent(gone.path()));
+    ASSERT_TRUE(gone.remove());
+    const DirectoryList list;
+    EXPECT_EQ(list.Path().toStdString(), "/");
+    QDir::setCurrent(before);
+}
