@@ -21,3 +21,6 @@ qint16 gXferBoard = 0;
 QString gXferFile;
 qint16 gXferFrom = 0;
 qint16 gXferTo = 0;
+
+PLSRecord gPLS;
+PLSRecord gPLSSnapshot;

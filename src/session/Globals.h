@@ -1,5 +1,6 @@
 #pragma once
 
+#include "programset/PLSRecord.h"
 #include <QString>
 #include <QStringList>
 
@@ -72,3 +73,9 @@ extern QString gXferFile;
 extern qint16 gXferFrom;
 /// Last byte address, included; the count of items of a datafile. Written as gXferFrom.
 extern qint16 gXferTo;
+
+/// Configuration and channels of the limit switch board or file in use. Written by the readers of
+/// boards and files, the jobs and the timing view; read by all of them and by the viewer.
+extern PLSRecord gPLS;
+/// gPLS as the last transfer left it; ConfigChanged compares the two. Written by the jobs.
+extern PLSRecord gPLSSnapshot;
