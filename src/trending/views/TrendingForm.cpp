@@ -42,8 +42,8 @@ QLineEdit* MakeEntry(QWidget& view) {
 TrendingForm::TrendingForm(QWidget& view, const modGraph& graph)
     : cboTargetBoard(MakeList(view, "cboTargetBoard", TableBoardNames())),
       cboAddress(MakeList(view, "cboAddress", {TrendVariable::none})),
-      optChangeOfState(Make<QRadioButton>(view, "optOptions0", QStringLiteral("Change of State"))),
-      optTimeInterval(Make<QRadioButton>(view, "optOptions1", QStringLiteral("Time Interval"))),
+      optChangeOfState(Make<QRadioButton>(view, "optOptions(0)", QStringLiteral("Change of State"))),
+      optTimeInterval(Make<QRadioButton>(view, "optOptions(1)", QStringLiteral("Time Interval"))),
       cboOptions(MakeList(view, "cboOptions", TrendAcquisition::IntervalNames())),
       chkAcquire(Make<QCheckBox>(view, "chkAcquire", QStringLiteral("&Acquire Samples"))),
       cmdClear(Make<QPushButton>(view, "cmdClear", QStringLiteral("&Clear Samples"))),

@@ -129,7 +129,7 @@ TEST_F(TrendingView, EscapeGivesTheTypedTextUp) {
 
 TEST_F(TrendingView, SamplesOfTheBoardStandInTheGridAndTheCounter) {
     TypeAddress(QStringLiteral("B40"));
-    Find<QRadioButton>("optOptions1").setChecked(true);
+    Find<QRadioButton>("optOptions(1)").setChecked(true);
     EXPECT_TRUE(Find<QComboBox>("cboOptions").isEnabled());
     GoOnlineAndAcquire();
     Until([&] { return view.Acquisition().Counter() >= 300; });
