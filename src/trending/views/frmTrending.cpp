@@ -233,7 +233,7 @@ void frmTrending::CounterChanged() {
 
 void frmTrending::SizeGrid() {
     const int digit = form_.fgTrend->fontMetrics().horizontalAdvance(u'0');
-    form_.fgTrend->ShareWidth({1, 4, 4}, {6 * digit, 10 * digit, 11 * digit});
+    form_.fgTrend->ShareWidth({1, 4, 4}, {5 * digit, 10 * digit, 12 * digit});
     Renumber();
 }
 
