@@ -8,10 +8,12 @@
 #include <memory>
 
 class ProcessStart;
+class ReportPrinter;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
 class TransferViews;
+class TrendingViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
 /// application.
@@ -24,6 +26,7 @@ struct Platform {
     const Drives& drives;
     const SerialPorts& ports;
     ProcessStart& tools;
+    ReportPrinter& printer;
     std::function<void()> endProgram; ///< ends the event loop
 };
 
@@ -46,6 +49,7 @@ public:
 private:
     void RegisterViews();
     void RegisterSetViews();
+    void RegisterCopy();
 
     const Platform platform_;
     FileSystem files_;
@@ -56,4 +60,5 @@ private:
     std::unique_ptr<TransferViews> transfers_;
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
+    std::unique_ptr<TrendingViews> trending_;
 };

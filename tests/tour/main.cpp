@@ -6,6 +6,7 @@
 #include "base/ProcessStart.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
+#include "reports/views/PrinterSurface.h"
 #include "tour/BoardProcess.h"
 #include "tour/DataTransferTour.h"
 #include "tour/MainJobTour.h"
@@ -43,8 +44,9 @@ int RunTour(const QString& output) {
     SerialMSComm port(clock, folder);
     const SystemSerialPorts ports(folder);
     SystemProcessStart tools;
-    Application application(
-        {clock, dialogs, busy, port, folder, drives, ports, tools, [] { QApplication::exit(); }});
+    SystemPrinter printer;
+    Application application({clock, dialogs, busy, port, folder, drives, ports, tools, printer,
+                             [] { QApplication::exit(); }});
     application.Start();
     TourGuide guide(application.MainWindow(), output);
     AddMainJob(guide, application.MainWindow(), board);

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 
 TrendingHost::~TrendingHost() = default;
 
@@ -61,6 +62,8 @@ void frmTrending::Connect() {
     });
     connect(form_.cmdClear, &QPushButton::clicked, this, [this] { acquisition_.Clear(); });
     connect(form_.cmdReset, &QPushButton::clicked, this, [this] { acquisition_.ResetCounter(); });
+    new QShortcut(QKeySequence(QKeySequence::Copy), this, this, &frmTrending::CopyGraph,
+                  Qt::WidgetWithChildrenShortcut);
     connect(form_.fgTrend, &Grid::Scrolled, this, &frmTrending::Renumber);
     connect(form_.fgTrend, &Grid::Resized, this, &frmTrending::SizeGrid);
     for (QWidget* place :

@@ -231,6 +231,31 @@ TEST_F(TrendingView, ThePrintDialogRunsTheReportAndPrintsTheGraph) {
     EXPECT_EQ(pdf.read(5), QByteArray("%PDF-"));
 }
 
+TEST_F(TrendingView, ACancelledPrinterDialogChangesNothing) {
+    printer.UsePrinter({QString(), Path("graph.pdf"), 1});
+    frmTrendingPrint dialog(dialogs, printer, jobs);
+    dialogs.ExpectPrinterCancelled();
+    dialog.findChild<QPushButton*>("cmdSetup")->click();
+    EXPECT_EQ(dialog.findChild<QLabel*>("lblPrinter")->text(), Path("graph.pdf"));
+    EXPECT_TRUE(dialogs.Boxes().empty());
+}
+
+TEST_F(TrendingView, WithoutAPrinterOkAsksForOneAndStaysUpOnCancel) {
+    if (!printer.DeviceName().isEmpty())
+        GTEST_SKIP() << "this computer has a printer";
+    frmTrendingPrint dialog(dialogs, printer, jobs);
+    dialog.show();
+    dialog.findChild<QCheckBox*>("chkTrendData")->setChecked(true);
+    dialogs.ExpectPrinterCancelled();
+    dialog.findChild<QPushButton*>("cmdOk")->click();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(jobs.ran.empty());
+    dialogs.ExpectPrinter({QString(), Path("asked.pdf"), 1});
+    dialog.findChild<QPushButton*>("cmdOk")->click();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(jobs.ran, std::vector<qint16>{WaitJob::PrintTrendData});
+}
+
 TEST_F(TrendingView, TheSetupShowsThePrinterThatWasChosen) {
     printer.UsePrinter({QString(), Path("graph.pdf"), 1});
     frmTrendingPrint dialog(dialogs, printer, jobs);
