@@ -13,6 +13,7 @@
 namespace {
 constexpr int fixedRows = 1;
 constexpr int twipsPerPixel = 15; // at 96 dots per inch
+constexpr int headPadding = 12;   // pixels around a head in a large font
 constexpr QSize usualSize(620, 460);
 constexpr qsizetype longestCell = 1000; // characters; no editor writes a tenth of it
 
@@ -71,6 +72,7 @@ void frmEditDoc::showEvent(QShowEvent* event) {
 void frmEditDoc::Form_Activate() {
     SetUpGrid();
     fgEditDoc_->SetCell(1, 1);
+    fgEditDoc_->setFocus();
     DoEvents();
     DisplayData();
 }
@@ -92,7 +94,8 @@ void frmEditDoc::SizeGrid() {
     std::vector<int> widths;
     for (const DocColumn& column : columns) {
         shares.push_back(column.share);
-        widths.push_back(column.width / twipsPerPixel);
+        const int head = fgEditDoc_->fontMetrics().horizontalAdvance(QLatin1String(column.head));
+        widths.push_back(qMax(column.width / twipsPerPixel, head + headPadding));
     }
     fgEditDoc_->ShareWidth(shares, widths);
 }

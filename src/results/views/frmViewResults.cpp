@@ -23,6 +23,8 @@
 
 namespace {
 constexpr int tabColumns = 8;
+constexpr int usualColumns = 84;
+constexpr int usualLines = 26;
 constexpr qsizetype longestShownLine = 4000; // characters; the box lays a line out as one piece
 
 QPushButton* Button(QWidget& view, const char* name, const QString& caption) {
@@ -64,13 +66,20 @@ void frmViewResults::BuildForm() {
     txtViewErrors_->setTabStopDistance(
         tabColumns * QFontMetricsF(txtViewErrors_->font()).horizontalAdvance(u' '));
     auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
     buttons->addWidget(cmdOk_);
     buttons->addWidget(cmdClear_);
-    buttons->addStretch();
     buttons->addWidget(cmdDefault_);
     auto* form = new QVBoxLayout(this);
     form->addWidget(txtViewErrors_, 1);
     form->addLayout(buttons);
+}
+
+// Room for a page of text as the tools write it.
+QSize frmViewResults::sizeHint() const {
+    const QFontMetrics metrics = txtViewErrors_->fontMetrics();
+    return QWidget::sizeHint().expandedTo(
+        {usualColumns * metrics.horizontalAdvance(u'0'), usualLines * metrics.lineSpacing()});
 }
 
 void frmViewResults::DisplayResults(qint16 Mode) {

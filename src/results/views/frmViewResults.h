@@ -42,6 +42,8 @@ public:
     /// The view has become the main window's active child.
     void Activate();
 
+    QSize sizeHint() const override;
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
