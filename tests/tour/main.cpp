@@ -15,6 +15,7 @@
 #include "tour/TargetBoardTour.h"
 #include "tour/TourGuide.h"
 #include "tour/TourSetting.h"
+#include "tour/TrendTour.h"
 #include <cstdio>
 #include <QApplication>
 #include <QPalette>
@@ -52,6 +53,7 @@ int RunTour(const QString& output) {
     AddMainJob(guide, application.MainWindow(), board);
     AddDataTransfers(guide, application.MainWindow(), board, setting);
     AddStatusTable(guide, application.MainWindow(), board, setting);
+    AddTrending(guide, application.MainWindow(), board, setting);
     AddTargetBoard(guide, application.MainWindow(), board);
     AddProgramSets(guide, application.MainWindow(), board, setting);
     guide.Start();
