@@ -30,7 +30,7 @@ QStringList ReadResultsFile(const QString& path, Clock& clock) {
     while (!reader.AtEnd()) {
         lines += reader.LineInput();
         characters += lines.last().size() + 1;
-        if (characters > longestResults)
+        if (characters > longestResults || lines.size() > mostResultsLines)
             throw RunTimeError(ErrorNumber::OutOfMemory);
     }
     return lines;

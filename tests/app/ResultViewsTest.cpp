@@ -209,3 +209,28 @@ TEST_F(ResultEntries, TheDocumentationOfTheSetThatIsChosenIsShown) {
     });
     Run("mnuEditVarDoc");
 }
+
+TEST_F(ResultEntries, ASetSelectedWhileFindRunsStaysSelected) {
+    WriteNames("UNIT");
+    Press("Status");
+    SelectTableProgram("UNIT");
+    ClickSet(QStringLiteral("PUMP.hdn"));
+    Press("Status");
+    ASSERT_TRUE(FindIsOffered());
+    QTimer::singleShot(0, &Window(), [this] {
+        ClickSet(QStringLiteral("CAMS.hdn"));
+        WriteSetFile(QStringLiteral("UNIT.gbl"), "Search\r\nB100\r\n");
+    });
+    Entry(QStringLiteral("mnuStatusTableItem(2)"))->trigger();
+    EXPECT_EQ(Shown(), QStringLiteral("-[UNIT]-\nSearch\nB100\n"));
+    EXPECT_EQ(gHdnFile, SetPath(QStringLiteral("CAMS.hdn")));
+}
+
+TEST_F(ResultEntries, FindIsNotOfferedForALimitSwitch) {
+    WriteNames("UNIT");
+    Press("Status");
+    SelectTableProgram("UNIT");
+    ASSERT_TRUE(FindIsOffered());
+    WriteSetFile(QStringLiteral("UNIT.hdn"), "7\r\n"); // another board since
+    EXPECT_FALSE(FindIsOffered());
+}
