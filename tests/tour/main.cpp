@@ -8,6 +8,7 @@
 #include "controls/QtDialogs.h"
 #include "tour/BoardProcess.h"
 #include "tour/DataTransferTour.h"
+#include "tour/HelpTour.h"
 #include "tour/MainJobTour.h"
 #include "tour/ProgramSetTour.h"
 #include "tour/StatusTableTour.h"
@@ -45,14 +46,16 @@ int RunTour(const QString& output) {
     SystemProcessStart tools;
     Application application(
         {clock, dialogs, busy, port, folder, drives, ports, tools, [] { QApplication::exit(); }});
-    application.Start();
     TourGuide guide(application.MainWindow(), output);
+    AddSplash(guide);
     AddMainJob(guide, application.MainWindow(), board);
     AddDataTransfers(guide, application.MainWindow(), board, setting);
     AddStatusTable(guide, application.MainWindow(), board, setting);
     AddTargetBoard(guide, application.MainWindow(), board);
     AddProgramSets(guide, application.MainWindow(), board, setting);
+    AddHelp(guide, application.MainWindow());
     guide.Start();
+    application.Start();
     return QApplication::exec();
 }
 } // namespace
