@@ -29,6 +29,7 @@ HelpViews::~HelpViews() = default;
 void HelpViews::ShowSplash() {
     frmSplash view(&window_);
     view.exec();
+    window_.activateWindow(); // not every window system gives the input back by itself
 }
 
 void HelpViews::ShowAbout() {

@@ -35,7 +35,9 @@ GuideBrowser::GuideBrowser(QWidget* parent) : QTextBrowser(parent) {
     colours.setColor(QPalette::Inactive, QPalette::HighlightedText,
                      colours.color(QPalette::Active, QPalette::HighlightedText));
     setPalette(colours);
-    connect(this, &QTextBrowser::sourceChanged, this, [this] {
+    // The browser still tells the old source while it announces the new one.
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
+        page_ = GuidePageOfFile(url.fileName());
         Style();
         Q_EMIT PageChanged();
     });
@@ -44,10 +46,6 @@ GuideBrowser::GuideBrowser(QWidget* parent) : QTextBrowser(parent) {
 void GuideBrowser::ShowPage(int page) {
     if (page != Page() && page >= 0 && page < static_cast<int>(GuidePages().size()))
         setSource(GuideUrl().resolved(QUrl(GuidePages()[static_cast<std::size_t>(page)].file)));
-}
-
-int GuideBrowser::Page() const {
-    return GuidePageOfFile(source().fileName());
 }
 
 QString GuideBrowser::PlainText(int page) {
@@ -59,7 +57,6 @@ QString GuideBrowser::PlainText(int page) {
 QVariant GuideBrowser::loadResource(int type, const QUrl& name) {
     if (type != QTextDocument::ImageResource)
         return QTextBrowser::loadResource(type, name);
-    pictures_.insert(name);
     return FittedPicture(name);
 }
 
@@ -77,9 +74,18 @@ QVariant GuideBrowser::FittedPicture(const QUrl& name) const {
     return picture;
 }
 
+void GuideBrowser::FitPicture(const QUrl& name) {
+    document()->addResource(QTextDocument::ImageResource, name, FittedPicture(name));
+}
+
 void GuideBrowser::FitPictures() {
-    for (const QUrl& name : std::as_const(pictures_))
-        document()->addResource(QTextDocument::ImageResource, name, FittedPicture(name));
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+            const QTextImageFormat picture = piece.fragment().charFormat().toImageFormat();
+            if (picture.isValid() && !picture.name().isEmpty())
+                FitPicture(document()->baseUrl().resolved(QUrl(picture.name())));
+        }
+    }
     document()->markContentsDirty(0, document()->characterCount());
 }
 
@@ -95,7 +101,6 @@ void GuideBrowser::changeEvent(QEvent* event) {
 }
 
 void GuideBrowser::Style() {
-    pictures_.clear();
     document()->setUndoRedoEnabled(false);
     StyleLinks();
     StyleTables();

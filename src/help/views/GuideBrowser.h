@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSet>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -14,7 +13,7 @@ public:
     /// Shows a page of the guide; nothing happens if it is shown already.
     void ShowPage(int page);
     /// Position of the page that is shown; -1 before the first.
-    int Page() const;
+    int Page() const { return page_; }
 
     /// Text of a page, character for character as it stands in the document that shows it.
     static QString PlainText(int page);
@@ -32,8 +31,9 @@ private:
     void Style();
     void StyleLinks();
     void StyleTables();
+    void FitPicture(const QUrl& name);
     void FitPictures();
     QVariant FittedPicture(const QUrl& name) const;
 
-    QSet<QUrl> pictures_; // of the page that is shown
+    int page_ = -1;
 };

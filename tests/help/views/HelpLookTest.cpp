@@ -15,11 +15,37 @@
 // With QUENTOR_PICTURES set to a folder each view also leaves a picture there.
 
 namespace {
+QPalette DarkPalette() {
+    QPalette palette(QColor(0x2d, 0x2f, 0x33), QColor(0x24, 0x26, 0x2a));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb0));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+bool IsDark() {
+    constexpr int middle = 128;
+    return QApplication::palette().color(QPalette::Window).lightness() < middle;
+}
+
+/// On light and on dark ground.
+class HelpLook : public testing::TestWithParam<bool> {
+protected:
+    HelpLook() {
+        if (GetParam())
+            QApplication::setPalette(DarkPalette());
+    }
+    ~HelpLook() override { QApplication::setPalette(QPalette()); }
+};
+INSTANTIATE_TEST_SUITE_P(LightAndDark, HelpLook, testing::Bool());
+
 void TakePicture(QWidget& view) {
     const QString folder = qEnvironmentVariable("QUENTOR_PICTURES");
     if (!folder.isEmpty()) {
-        EXPECT_TRUE(
-            view.grab().save(QStringLiteral("%1/%2.png").arg(folder, view.objectName())));
+        EXPECT_TRUE(view.grab().save(QStringLiteral("%1/%2-%3-%4.png")
+                                         .arg(folder, view.objectName(),
+                                              IsDark() ? QStringLiteral("dark")
+                                                       : QStringLiteral("light"))
+                                         .arg(qRound(100 * view.devicePixelRatioF()))));
     }
 }
 
@@ -27,6 +53,7 @@ void TakePicture(QWidget& view) {
 void ExpectRoomForTexts(QWidget& view) {
     view.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    QCoreApplication::processEvents();
     for (const QLabel* label : view.findChildren<QLabel*>()) {
         if (!label->isVisible())
             continue;
@@ -65,22 +92,22 @@ SystemFacts Facts() {
 }
 } // namespace
 
-TEST(HelpLook, TheSplashHasRoomForItsTexts) {
+TEST_P(HelpLook, TheSplashHasRoomForItsTexts) {
     frmSplash view;
     ExpectRoomForTexts(view);
 }
 
-TEST(HelpLook, TheAboutViewHasRoomForItsTexts) {
+TEST_P(HelpLook, TheAboutViewHasRoomForItsTexts) {
     frmAbout view({QDate(2026, 2, 3), [](QWidget&) {}});
     ExpectRoomForTexts(view);
 }
 
-TEST(HelpLook, TheSystemInformationHasRoomForItsTexts) {
+TEST_P(HelpLook, TheSystemInformationHasRoomForItsTexts) {
     frmSysInfo view(SystemReport(Facts()));
     ExpectRoomForTexts(view);
 }
 
-TEST(HelpLook, TheHelpWindowHasRoomForItsTexts) {
+TEST_P(HelpLook, TheHelpWindowHasRoomForItsTexts) {
     frmHelp view;
     view.ShowView(QStringLiteral("frmStatusTable"));
     ExpectRoomForTexts(view);

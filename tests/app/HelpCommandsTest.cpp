@@ -13,7 +13,7 @@
 #include <QTest>
 
 namespace {
-class HelpViews : public WholeProgram {
+class HelpCommands : public WholeProgram {
 protected:
     /// The help window; null if none is up.
     static frmHelp* Help() {
@@ -41,7 +41,7 @@ protected:
 };
 } // namespace
 
-TEST_F(HelpViews, TheSplashIsUpAtTheStartAndAKeyGoesOn) {
+TEST_F(HelpCommands, TheSplashIsUpAtTheStartAndAKeyGoesOn) {
     Stop();
     bool timerRan = false;
     bool tableUp = false;
@@ -61,7 +61,7 @@ TEST_F(HelpViews, TheSplashIsUpAtTheStartAndAKeyGoesOn) {
     EXPECT_TRUE(port_.Sent().empty());
 }
 
-TEST_F(HelpViews, HelpOpensOnThePageOfTheActiveView) {
+TEST_F(HelpCommands, HelpOpensOnThePageOfTheActiveView) {
     Press("Status");
     PressHelpKey();
     EXPECT_EQ(Page(), "status-table.md");
@@ -71,7 +71,7 @@ TEST_F(HelpViews, HelpOpensOnThePageOfTheActiveView) {
     EXPECT_TRUE(tools_.commands.isEmpty());
 }
 
-TEST_F(HelpViews, HelpLeavesTheActiveViewWhatItIs) {
+TEST_F(HelpCommands, HelpLeavesTheActiveViewWhatItIs) {
     Press("Status");
     PressHelpKey();
     ASSERT_NE(Help(), nullptr);
@@ -79,14 +79,14 @@ TEST_F(HelpViews, HelpLeavesTheActiveViewWhatItIs) {
     EXPECT_EQ(Window().ActiveChildName().toStdString(), "frmStatusTable");
 }
 
-TEST_F(HelpViews, TheHelpWindowGoesWithTheProgram) {
+TEST_F(HelpCommands, TheHelpWindowGoesWithTheProgram) {
     PressHelpKey();
     ASSERT_NE(Help(), nullptr);
     Stop();
     EXPECT_EQ(Help(), nullptr);
 }
 
-TEST_F(HelpViews, TheHelpFileOfTheSuiteIsOpenedWhereItIsThere) {
+TEST_F(HelpCommands, TheHelpFileOfTheSuiteIsOpenedWhereItIsThere) {
     WriteAppFile(QStringLiteral("Help/Halden2000.hlp"));
     PressHelpKey();
     ASSERT_EQ(tools_.commands.size(), 1);
@@ -95,7 +95,7 @@ TEST_F(HelpViews, TheHelpFileOfTheSuiteIsOpenedWhereItIsThere) {
     EXPECT_EQ(Help(), nullptr);
 }
 
-TEST_F(HelpViews, AHelpFileThatNothingCanShowLeavesTheGuide) {
+TEST_F(HelpCommands, AHelpFileThatNothingCanShowLeavesTheGuide) {
     WriteAppFile(QStringLiteral("Help/Halden2000.hlp"));
     tools_.fails = true;
     dialogs_.ExpectBox("Error Number = 53\r\n\r\nFile not found", MsgStyle::Critical,
@@ -104,7 +104,7 @@ TEST_F(HelpViews, AHelpFileThatNothingCanShowLeavesTheGuide) {
     EXPECT_NE(Help(), nullptr);
 }
 
-TEST_F(HelpViews, AboutShowsTheDateOfTheProgramInTheApplicationFolder) {
+TEST_F(HelpCommands, AboutShowsTheDateOfTheProgramInTheApplicationFolder) {
     WriteAppFile(QStringLiteral("Quentor.exe"));
     QFile file(AppPath(QStringLiteral("Quentor.exe")));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
@@ -118,7 +118,7 @@ TEST_F(HelpViews, AboutShowsTheDateOfTheProgramInTheApplicationFolder) {
     Entry(QStringLiteral("mnuHelpAbout"))->trigger();
 }
 
-TEST_F(HelpViews, SystemInfoShowsAndCopiesWhatASupportDeskAsksFor) {
+TEST_F(HelpCommands, SystemInfoShowsAndCopiesWhatASupportDeskAsksFor) {
     ports_.found = {{7, QStringLiteral("/dev/ttyTest"), QStringLiteral("test adapter")}};
     WriteAppFile(QStringLiteral("support/RSPort.cfg"));
     QFile settings(AppPath(QStringLiteral("support/RSPort.cfg")));
@@ -142,7 +142,7 @@ TEST_F(HelpViews, SystemInfoShowsAndCopiesWhatASupportDeskAsksFor) {
         EXPECT_TRUE(shown.contains(fact)) << fact.toStdString();
 }
 
-TEST_F(HelpViews, UnreadableSettingsAreNamedInTheReport) {
+TEST_F(HelpCommands, UnreadableSettingsAreNamedInTheReport) {
     WriteAppFile(QStringLiteral("support/RSPort.cfg"));
     QString shown;
     WhenUp("frmAbout", [](QWidget& about) { ClickButton(about, "cmdSysInfo"); });
