@@ -38,10 +38,10 @@ std::vector<GuideHit> FindInGuide(const QStringList& texts, const QString& words
         QRegularExpressionMatchIterator found = pattern.globalMatch(texts.at(page));
         while (found.hasNext()) {
             const QRegularExpressionMatch match = found.next();
-            hits.push_back({page, static_cast<int>(match.capturedStart()),
-                            static_cast<int>(match.capturedLength()),
-                            ExcerptOf(texts.at(page), match.capturedStart(),
-                                      match.capturedLength())});
+            hits.push_back(
+                {page, static_cast<int>(match.capturedStart()),
+                 static_cast<int>(match.capturedLength()),
+                 ExcerptOf(texts.at(page), match.capturedStart(), match.capturedLength())});
         }
     }
     return hits;

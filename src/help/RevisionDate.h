@@ -9,5 +9,6 @@ class ApplicationFolder;
 /// `runningProgram` where the program does not stand there. Invalid if neither can be had.
 QDate RevisionDate(const ApplicationFolder& folder, const QString& runningProgram);
 
-/// "Revised: " and the date in the short form of the user's country; without a date only the former.
+/// "Revised: " and the date in the short form of the user's country; without a date only the
+/// former.
 QString RevisionText(const QDate& date);

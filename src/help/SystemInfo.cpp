@@ -37,9 +37,8 @@ void StartSysInfo(const SystemInfoContext& context) {
         if (const auto tool = SystemInfoTool(context.registry, context.files))
             context.tools.Shell(CommandWord(*tool), normalWindow);
         else
-            context.dialogs.MsgBox(
-                QStringLiteral("System Information Is Unavailable At This Time"), MsgStyle::Plain,
-                ProgramVersion().title);
+            context.dialogs.MsgBox(QStringLiteral("System Information Is Unavailable At This Time"),
+                                   MsgStyle::Plain, ProgramVersion().title);
     } catch (const RunTimeError& error) {
         ShowErrorBox(context.dialogs, error, QStringLiteral("StartSysInfo"), MsgStyle::Critical);
     }

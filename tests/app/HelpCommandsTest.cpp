@@ -45,8 +45,8 @@ TEST_F(HelpCommands, TheSplashIsUpAtTheStartAndAKeyGoesOn) {
     Stop();
     bool timerRan = false;
     bool tableUp = false;
-    application_ = std::make_unique<Application>(Platform{
-        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [] {}});
+    application_ = std::make_unique<Application>(
+        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [] {}});
     InModalView(QStringLiteral("frmSplash"), [&](QWidget& splash) {
         timerRan = Window().Timer().Enabled();
         tableUp = Window().Children().IsVisible(QStringLiteral("frmStatusTable"));
@@ -90,16 +90,17 @@ TEST_F(HelpCommands, TheHelpFileOfTheSuiteIsOpenedWhereItIsThere) {
     WriteAppFile(QStringLiteral("Help/Halden2000.hlp"));
     PressHelpKey();
     ASSERT_EQ(tools_.commands.size(), 1);
-    EXPECT_EQ(tools_.commands.first(),
-              ViewerCommand(QSysInfo::kernelType(), AppPath(QStringLiteral("Help/Halden2000.hlp"))));
+    EXPECT_EQ(
+        tools_.commands.first(),
+        ViewerCommand(QSysInfo::kernelType(), AppPath(QStringLiteral("Help/Halden2000.hlp"))));
     EXPECT_EQ(Help(), nullptr);
 }
 
 TEST_F(HelpCommands, AHelpFileThatNothingCanShowLeavesTheGuide) {
     WriteAppFile(QStringLiteral("Help/Halden2000.hlp"));
     tools_.fails = true;
-    dialogs_.ExpectBox("Error Number = 53\r\n\r\nFile not found", MsgStyle::Critical,
-                       "Help Topics", MsgAnswer::Ok);
+    dialogs_.ExpectBox("Error Number = 53\r\n\r\nFile not found", MsgStyle::Critical, "Help Topics",
+                       MsgAnswer::Ok);
     PressHelpKey();
     EXPECT_NE(Help(), nullptr);
 }
@@ -136,9 +137,9 @@ TEST_F(HelpCommands, SystemInfoShowsAndCopiesWhatASupportDeskAsksFor) {
     Entry(QStringLiteral("mnuHelpAbout"))->trigger();
     EXPECT_EQ(QApplication::clipboard()->text(), shown);
     for (const QString& fact :
-         {ProgramVersion().Number(), QString::fromLatin1(qVersion()),
-          QSysInfo::prettyProductName(), QStringLiteral("/dev/ttyTest, test adapter"),
-          QStringLiteral("COM7, 19200 baud"), folder_->Root()})
+         {ProgramVersion().Number(), QString::fromLatin1(qVersion()), QSysInfo::prettyProductName(),
+          QStringLiteral("/dev/ttyTest, test adapter"), QStringLiteral("COM7, 19200 baud"),
+          folder_->Root()})
         EXPECT_TRUE(shown.contains(fact)) << fact.toStdString();
 }
 

@@ -108,8 +108,8 @@ TEST_F(SystemInfo, ValuesAreReadAsText) {
 
 TEST_F(SystemInfo, AValueThatIsNotThereIsFalseAndEmpty) {
     QString text = QStringLiteral("old");
-    EXPECT_FALSE(GetKeyValue(registry_, LocalMachine(), QStringLiteral("K"), QStringLiteral("N"),
-                             text));
+    EXPECT_FALSE(
+        GetKeyValue(registry_, LocalMachine(), QStringLiteral("K"), QStringLiteral("N"), text));
     EXPECT_TRUE(text.isEmpty());
 }
 

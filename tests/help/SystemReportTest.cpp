@@ -28,23 +28,23 @@ TEST(SystemReport, NamesProgramSystemLibrariesScreensAndPorts) {
     facts.ports = {{33, QStringLiteral("/dev/ttyUSB0"), QStringLiteral("USB adapter")},
                    {std::nullopt, QStringLiteral("/dev/ttyX"), QString()}};
     const QString number = ProgramVersion().Number();
-    EXPECT_EQ(SystemReport(facts).toStdString(), "Program:            Quentor " +
-                                                     number.toStdString() +
-                                                     "\n"
-                                                     "Revised:            2026-02-03\n"
-                                                     "Application folder: /opt/quentor\n"
-                                                     "Port settings:      COM33, 19200 baud\n"
-                                                     "System:             Some System 12\n"
-                                                     "Kernel:             linux 6.1\n"
-                                                     "Processor:          x86_64\n"
-                                                     "Qt:                 6.4.2 (built with 6.4.1)\n"
-                                                     "Window system:      xcb, style fusion\n"
-                                                     "Language:           en_GB\n"
-                                                     "Screen:             1280 x 800 at 100 per cent\n"
-                                                     "\n"
-                                                     "Serial ports found:\n"
-                                                     "  COM33             /dev/ttyUSB0, USB adapter\n"
-                                                     "  (no number)       /dev/ttyX");
+    EXPECT_EQ(SystemReport(facts).toStdString(),
+              "Program:            Quentor " + number.toStdString() +
+                  "\n"
+                  "Revised:            2026-02-03\n"
+                  "Application folder: /opt/quentor\n"
+                  "Port settings:      COM33, 19200 baud\n"
+                  "System:             Some System 12\n"
+                  "Kernel:             linux 6.1\n"
+                  "Processor:          x86_64\n"
+                  "Qt:                 6.4.2 (built with 6.4.1)\n"
+                  "Window system:      xcb, style fusion\n"
+                  "Language:           en_GB\n"
+                  "Screen:             1280 x 800 at 100 per cent\n"
+                  "\n"
+                  "Serial ports found:\n"
+                  "  COM33             /dev/ttyUSB0, USB adapter\n"
+                  "  (no number)       /dev/ttyX");
 }
 
 TEST(SystemReport, SaysThatThereIsNoPort) {

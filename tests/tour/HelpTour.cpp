@@ -30,9 +30,8 @@ QString HelpPage() {
 }
 
 void AddAbout(TourGuide& guide, frmMDIMain& window) {
-    guide.Stop(QStringLiteral("choose Help, About Quentor"), Always, [&window] {
-        window.Commands().Action(QStringLiteral("mnuHelpAbout"))->trigger();
-    });
+    guide.Stop(QStringLiteral("choose Help, About Quentor"), Always,
+               [&window] { window.Commands().Action(QStringLiteral("mnuHelpAbout"))->trigger(); });
     guide.Stop(
         QStringLiteral("the about view is up"), [] { return IsUp("frmAbout"); }, [] {});
     guide.Picture(QStringLiteral("about"));

@@ -8,10 +8,10 @@
 #include <QTextTable>
 
 namespace {
-constexpr int cellPadding = 4;   // pixels
-constexpr int narrowest = 160;   // pixels that a picture keeps
-constexpr int pageMargin = 14;   // pixels around the page
-constexpr int darkest = 128;     // lightness below which a ground is dark
+constexpr int cellPadding = 4; // pixels
+constexpr int narrowest = 160; // pixels that a picture keeps
+constexpr int pageMargin = 14; // pixels around the page
+constexpr int darkest = 128;   // lightness below which a ground is dark
 
 QUrl GuideUrl() {
     return QUrl(QStringLiteral("qrc") + GuideFolder());
@@ -68,6 +68,7 @@ QVariant GuideBrowser::FittedPicture(const QUrl& name) const {
     const int room = std::max(narrowest, viewport()->width() - 2 * pageMargin);
     const int width = std::min(room, picture.width());
     const int pixels = static_cast<int>(width * devicePixelRatioF());
+    picture.convertTo(QImage::Format_ARGB32_Premultiplied); // few colours would be dithered
     if (pixels < picture.width())
         picture = picture.scaledToWidth(pixels, Qt::SmoothTransformation);
     picture.setDevicePixelRatio(static_cast<double>(picture.width()) / width);

@@ -11,7 +11,7 @@ class QVBoxLayout;
 
 /// What the about view shows and starts.
 struct AboutContext {
-    QDate revised;                                ///< last change of the program; may be invalid
+    QDate revised;                                   ///< last change of the program; may be invalid
     std::function<void(QWidget& view)> startSysInfo; ///< what the System Info button does
 };
 

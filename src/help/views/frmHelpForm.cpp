@@ -132,9 +132,9 @@ void frmHelp::AddKeys() {
         txtSearch_->selectAll();
     });
     for (const int enter : {Qt::Key_Return, Qt::Key_Enter}) {
-        key(QKeySequence(enter), txtSearch_, [this] { NextHit(); })
-            ->setContext(Qt::WidgetShortcut);
-        key(QKeySequence(Qt::SHIFT | enter), txtSearch_, [this] { PreviousHit(); })
-            ->setContext(Qt::WidgetShortcut);
+        key(QKeySequence(enter), txtSearch_, [this] { NextHit(); })->setContext(Qt::WidgetShortcut);
+        key(QKeySequence(Qt::SHIFT | enter), txtSearch_, [this] {
+            PreviousHit();
+        })->setContext(Qt::WidgetShortcut);
     }
 }

@@ -41,11 +41,11 @@ INSTANTIATE_TEST_SUITE_P(LightAndDark, HelpLook, testing::Bool());
 void TakePicture(QWidget& view) {
     const QString folder = qEnvironmentVariable("QUENTOR_PICTURES");
     if (!folder.isEmpty()) {
-        EXPECT_TRUE(view.grab().save(QStringLiteral("%1/%2-%3-%4.png")
-                                         .arg(folder, view.objectName(),
-                                              IsDark() ? QStringLiteral("dark")
-                                                       : QStringLiteral("light"))
-                                         .arg(qRound(100 * view.devicePixelRatioF()))));
+        EXPECT_TRUE(
+            view.grab().save(QStringLiteral("%1/%2-%3-%4.png")
+                                 .arg(folder, view.objectName(),
+                                      IsDark() ? QStringLiteral("dark") : QStringLiteral("light"))
+                                 .arg(qRound(100 * view.devicePixelRatioF()))));
     }
 }
 
@@ -57,8 +57,8 @@ void ExpectRoomForTexts(QWidget& view) {
     for (const QLabel* label : view.findChildren<QLabel*>()) {
         if (!label->isVisible())
             continue;
-        const int wanted = label->wordWrap() ? label->heightForWidth(label->width())
-                                             : label->sizeHint().height();
+        const int wanted =
+            label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
         EXPECT_GE(label->height(), wanted) << label->text().toStdString();
         if (!label->wordWrap()) {
             EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
