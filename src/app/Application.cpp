@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include "app/HelpViews.h"
 #include "app/PLSTransfer.h"
 #include "app/ResultViews.h"
 #include "app/StatusTableViews.h"
@@ -51,6 +52,7 @@ void Application::RegisterViews() {
     trending_ = std::make_unique<TrendingViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                 transfers_->Runner(), window_);
     results_ = std::make_unique<ResultViews>(platform_, window_);
+    help_ = std::make_unique<HelpViews>(platform_, files_, window_);
     RegisterCopy();
 }
 

@@ -7,6 +7,7 @@
 #include "shell/frmMDIMain.h"
 #include <memory>
 
+class HelpViews;
 class PLSTransfer;
 class ProcessStart;
 class ReportPrinter;
@@ -65,4 +66,5 @@ private:
     std::unique_ptr<TargetBoardViews> targetBoard_;
     std::unique_ptr<TrendingViews> trending_;
     std::unique_ptr<ResultViews> results_;
+    std::unique_ptr<HelpViews> help_;
 };

@@ -72,9 +72,9 @@ const std::vector<Row> toolsRows = {
     {"mnuToolsPLSProgramming", "&PLS Programming", "Ctrl+L", Disabled},
 };
 const std::vector<Row> helpRows = {
-    {"mnuHelpTopics", "Help &Topics", "Ctrl+H", Disabled},
+    {"mnuHelpTopics", "Help &Topics", "Ctrl+H", Enabled},
     {"", "", "", Enabled},
-    {"mnuHelpAbout", "&About Quentor", "", Disabled},
+    {"mnuHelpAbout", "&About Quentor", "", Enabled},
 };
 const std::vector<Row> trendingPopupRows = {
     {"mnuTrendingPopupOpen", "&Open Trend Sample", "", Enabled},
