@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include "app/PLSViews.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
 #include "app/TransferViews.h"
@@ -43,6 +44,7 @@ void Application::RegisterViews() {
     statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
+    pls_ = std::make_unique<PLSViews>(platform_, window_);
 }
 
 void Application::RegisterSetViews() {

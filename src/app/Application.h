@@ -7,6 +7,7 @@
 #include "shell/frmMDIMain.h"
 #include <memory>
 
+class PLSViews;
 class ProcessStart;
 class SerialPorts;
 class StatusTableViews;
@@ -56,4 +57,5 @@ private:
     std::unique_ptr<TransferViews> transfers_;
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
+    std::unique_ptr<PLSViews> pls_;
 };
