@@ -13,13 +13,15 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
 constexpr int rowsAtLoad = 72;
 constexpr int headingRows = 1;
 const QString heading = QStringLiteral("<CHANNEL NUMBER:|^ON POS|^Off POS");
-constexpr int widestHeading = 34; // characters: " CH77 - ", a label of 21, some air
+constexpr int widestLabel = 21;   // characters, capitals as a rule
+constexpr int gridHeight = 40;    // lines
 constexpr int widestPosition = 9; // characters: "Off POS" and some air
 } // namespace
 
@@ -98,13 +100,22 @@ void frmPLSView::SetUpGrid() {
         FillChannelGrid();
 }
 
+// Room for the longest heading beside the positions.
+QSize frmPLSView::GridViewSize() const {
+    const int heading =
+        fontMetrics().horizontalAdvance(QStringLiteral(" CH77 - ") + QString(widestLabel, u'M'));
+    const int positions = 2 * widestPosition * fontMetrics().averageCharWidth();
+    const int frames = sizeHint().width() - fgPLSChannels_->sizeHint().width() +
+                       fgPLSChannels_->verticalScrollBar()->sizeHint().width();
+    return {heading + positions + std::max(frames, 0), gridHeight * fontMetrics().height()};
+}
+
 // From the main window's corner on and no larger than it; smaller where what is shown needs less.
 void frmPLSView::LayoutView() {
     const QWidget* main = parentWidget() ? parentWidget()->window() : nullptr;
-    const int characters = widestHeading + 2 * widestPosition;
     QSize size = sizeHint();
     if (frame_ == PLSViewFrame::Setpoints)
-        size = {fontMetrics().averageCharWidth() * (characters + 10), fontMetrics().height() * 40};
+        size = GridViewSize();
     if (main) {
         size = size.boundedTo(main->size());
         move(main->geometry().topLeft());

@@ -30,6 +30,7 @@ private:
     void ShowConfiguration();
     void SetUpGrid();
     void LayoutView();
+    QSize GridViewSize() const;
     void FillChannelGrid();
     void FitGrid();
     void ShareGridWidth();
