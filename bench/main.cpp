@@ -7,6 +7,7 @@
 #include "bench/StartRows.h"
 #include "bench/TableFileRows.h"
 #include "bench/TableRefreshRows.h"
+#include "bench/TrendRows.h"
 #include "bench/TypingRow.h"
 #include "bench/UploadRow.h"
 #include <cstdio>
@@ -37,6 +38,7 @@ std::vector<Measurement> Measurements() {
         {QStringLiteral("upload"), [board] { return bench::MeasureUpload(board); }},
         {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
         {QStringLiteral("table"), [board] { return bench::MeasureTableRefresh(board); }},
+        {QStringLiteral("trend"), [board] { return bench::MeasureTrend(board); }},
         {QStringLiteral("typing"), [board] { return std::vector{bench::MeasureTyping(board)}; }},
         {QStringLiteral("open"), bench::MeasureTableOpening},
         {QStringLiteral("offline"), [] { return std::vector{bench::MeasureOfflineTable()}; }},

@@ -1,9 +1,11 @@
 #include "app/Application.h"
 
+#include "app/PLSTransfer.h"
 #include "app/PLSViews.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
 #include "app/TransferViews.h"
+#include "app/TrendingViews.h"
 #include "controls/ViewHelpers.h"
 #include "link/views/frmDownloadProg.h"
 #include "link/views/frmSetupComm.h"
@@ -41,10 +43,25 @@ void Application::RegisterViews() {
     };
     RegisterSetViews();
     transfers_ = std::make_unique<TransferViews>(platform_, link_, files_, window_);
+    plsTransfer_ = std::make_unique<PLSTransfer>(platform_, link_, transfers_->Jobs(),
+                                                 transfers_->Runner(), window_);
     statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
+    trending_ = std::make_unique<TrendingViews>(platform_, link_, loops_, transfers_->Jobs(),
+                                                transfers_->Runner(), window_);
     pls_ = std::make_unique<PLSViews>(platform_, window_);
+    RegisterCopy();
+}
+
+// One entry and one key copy for two views: the table goes before the graph.
+void Application::RegisterCopy() {
+    window_.Commands().Handle(QStringLiteral("mnuEditCopy"), [this] {
+        if (window_.Children().IsVisible(QStringLiteral("frmStatusTable")))
+            statusTable_->CopyCells();
+        else
+            trending_->CopyGraph();
+    });
 }
 
 void Application::RegisterSetViews() {

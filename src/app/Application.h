@@ -7,12 +7,15 @@
 #include "shell/frmMDIMain.h"
 #include <memory>
 
+class PLSTransfer;
 class PLSViews;
 class ProcessStart;
+class ReportPrinter;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
 class TransferViews;
+class TrendingViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
 /// application.
@@ -25,6 +28,7 @@ struct Platform {
     const Drives& drives;
     const SerialPorts& ports;
     ProcessStart& tools;
+    ReportPrinter& printer;
     std::function<void()> endProgram; ///< ends the event loop
 };
 
@@ -47,6 +51,7 @@ public:
 private:
     void RegisterViews();
     void RegisterSetViews();
+    void RegisterCopy();
 
     const Platform platform_;
     FileSystem files_;
@@ -55,7 +60,9 @@ private:
     ViewLoopRunner loops_;
     frmMDIMain window_;
     std::unique_ptr<TransferViews> transfers_;
+    std::unique_ptr<PLSTransfer> plsTransfer_;
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
+    std::unique_ptr<TrendingViews> trending_;
     std::unique_ptr<PLSViews> pls_;
 };
