@@ -9,6 +9,7 @@
 
 class HelpViews;
 class PLSTransfer;
+class PLSViews;
 class ProcessStart;
 class ReportPrinter;
 class ResultViews;
@@ -67,4 +68,5 @@ private:
     std::unique_ptr<TrendingViews> trending_;
     std::unique_ptr<ResultViews> results_;
     std::unique_ptr<HelpViews> help_;
+    std::unique_ptr<PLSViews> pls_;
 };
