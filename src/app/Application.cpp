@@ -4,6 +4,7 @@
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
 #include "app/TransferViews.h"
+#include "app/TrendingViews.h"
 #include "controls/ViewHelpers.h"
 #include "link/views/frmDownloadProg.h"
 #include "link/views/frmSetupComm.h"
@@ -46,6 +47,19 @@ void Application::RegisterViews() {
     statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
+    trending_ = std::make_unique<TrendingViews>(platform_, link_, loops_, transfers_->Jobs(),
+                                                transfers_->Runner(), window_);
+    RegisterCopy();
+}
+
+// One entry and one key copy for two views: the table goes before the graph.
+void Application::RegisterCopy() {
+    window_.Commands().Handle(QStringLiteral("mnuEditCopy"), [this] {
+        if (window_.Children().IsVisible(QStringLiteral("frmStatusTable")))
+            statusTable_->CopyCells();
+        else
+            trending_->CopyGraph();
+    });
 }
 
 void Application::RegisterSetViews() {

@@ -9,10 +9,12 @@
 
 class PLSTransfer;
 class ProcessStart;
+class ReportPrinter;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
 class TransferViews;
+class TrendingViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
 /// application.
@@ -25,6 +27,7 @@ struct Platform {
     const Drives& drives;
     const SerialPorts& ports;
     ProcessStart& tools;
+    ReportPrinter& printer;
     std::function<void()> endProgram; ///< ends the event loop
 };
 
@@ -47,6 +50,7 @@ public:
 private:
     void RegisterViews();
     void RegisterSetViews();
+    void RegisterCopy();
 
     const Platform platform_;
     FileSystem files_;
@@ -58,4 +62,5 @@ private:
     std::unique_ptr<PLSTransfer> plsTransfer_;
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
+    std::unique_ptr<TrendingViews> trending_;
 };
