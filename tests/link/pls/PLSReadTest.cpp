@@ -80,7 +80,7 @@ TEST_P(EachPLSWord, AnAcknowledgeThatComesLateIsNoDataByte) {
     port.Reply(0x55, 0.010); // the attention after the time-out
     AnswerWord(360);
     EXPECT_EQ(Read(), QStringLiteral("360"));
-    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0xFF, 0xFF, Command(), 0x55, 0x55}));
+    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0xFF, Command(), 0x55, 0x55}));
 }
 
 TEST_F(PLSRead, CancelOfTheHandshakeGivesMinus9999AndGoesOffline) {
