@@ -10,6 +10,7 @@
 class PLSTransfer;
 class ProcessStart;
 class ReportPrinter;
+class ResultViews;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
@@ -63,4 +64,5 @@ private:
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
     std::unique_ptr<TrendingViews> trending_;
+    std::unique_ptr<ResultViews> results_;
 };

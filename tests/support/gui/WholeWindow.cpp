@@ -75,8 +75,9 @@ WholeWindow::~WholeWindow() {
 }
 
 void WholeWindow::Start() {
-    application_ = std::make_unique<Application>(Platform{
-        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, printer_, [this] { ++ended_; }});
+    application_ =
+        std::make_unique<Application>(Platform{clock_, dialogs_, busy_, port_, *folder_, drives_,
+                                               ports_, tools_, printer_, [this] { ++ended_; }});
     application_->Start();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
 }
