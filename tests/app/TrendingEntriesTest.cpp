@@ -123,15 +123,5 @@ TEST_F(TrendingEntries, ATableThatCannotBePrintedIsToldAndTheFocusGoesToTheGrid)
     dialogs_.ExpectBoxTitled(QStringLiteral("Status Table"), MsgAnswer::Ok);
     Trigger("mnuFilePrintStatusTable");
     EXPECT_TRUE(dialogs_.Boxes().at(0).text.startsWith(QStringLiteral("Error Number = 68")));
-    EXPECT_TRUE(Table().hasFocus());
-}
-
-TEST_F(TrendingEntries, ThePrintButtonOpensThePrintDialogOfTheTrend) {
-    bool up = false;
-    WhenUp("frmTrendingPrint", [&](QWidget& dialog) {
-        up = true;
-        ClickButton(dialog, "cmdCancel");
-    });
-    Press("Print");
-    EXPECT_TRUE(up);
+    EXPECT_EQ(Window().focusWidget(), &Table());
 }
