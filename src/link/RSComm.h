@@ -221,7 +221,8 @@ private:
     bool UserRetriesLine();
     bool SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes = 0);
     bool BoardAwaitsCommand(int mode);
-    void LetLineFallQuiet();
+    bool LetLineFallQuiet();
+    int SendAttention();
     void WaitSeconds(double seconds);
 
     // RSCommVariables.cpp: read and write mode.

@@ -155,8 +155,7 @@ void RSComm::WriteConfiguration() {
 // does not wait for a command. Both are sent again, and the user is asked when that does not help.
 void RSComm::EnterProgramMode() {
     for (int attempt = 1; !commError_; ++attempt) {
-        const int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
-        inDoubt_ = inDoubt_ || reply != acknowledge;
+        const int reply = SendAttention();
         linkMode_ = LinkMode::Program; // a time-out takes it back
         if (reply == acknowledge)
             ExchangeByte(programModeByte);

@@ -9,6 +9,7 @@
 namespace {
 constexpr std::uint8_t attention = 0xFF;
 constexpr std::uint8_t acknowledge = 0x55;
+constexpr int notAcknowledged = -1;     // an acknowledge that cannot be trusted
 constexpr double firstReplyTime = 1.0;  // seconds until the first time-out
 constexpr double resyncReplyTime = 2.0; // seconds after each resynchronising attention
 constexpr int timeOutsBeforeAlert = 3;  // 1 + 2 + 2 seconds on a dead line
@@ -136,16 +137,19 @@ void RSComm::WaitSeconds(double seconds) {
 // Waits until nothing more arrives, and throws away what did: a reply that a time-out gave up, or
 // the second of a doubled one. Taken for the answer to the next byte it would leave all further
 // replies one byte behind, and an attention that meets a board in the middle of a write is stored
-// as data.
-void RSComm::LetLineFallQuiet() {
+// as data. True if anything was thrown away.
+bool RSComm::LetLineFallQuiet() {
     LongWait display(busy_, clock_);
+    bool noisy = false;
     const double end = clock_.MonotonicSeconds() + noisyLineTime;
     double now = clock_.MonotonicSeconds();
     while (now < end && InputArrives(now + quietLineTime, display)) {
         port_->SetInBufferCount(0);
+        noisy = true;
         now = clock_.MonotonicSeconds();
     }
     inDoubt_ = false;
+    return noisy;
 }
 
 // Enters a link mode: attention and the mode byte, each to be acknowledged. When the mode byte
@@ -166,7 +170,7 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes) {
             deadline = clock_.MonotonicSeconds() + handshakeTime;
         }
         linkMode_ = mode; // a time-out takes it back
-        int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
+        int reply = SendAttention();
         if (reply == acknowledge && BoardAwaitsCommand(mode)) {
             linkMode_ = mode;
             dataOwed_ = dataBytes;
@@ -179,6 +183,18 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes) {
             return false;
         inDoubt_ = inDoubt_ || reply != acknowledge;
     }
+}
+
+// Sends attention for a mode that is to be entered; gives the reply. In doubt an acknowledge counts
+// only if nothing comes behind it: else it may be noise ahead of an echo, and the board stands in
+// the middle of a write and would store the mode byte.
+int RSComm::SendAttention() {
+    const bool doubtful = inDoubt_;
+    int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
+    if (reply == acknowledge && doubtful && !inDoubt_ && LetLineFallQuiet())
+        reply = notAcknowledged;
+    inDoubt_ = inDoubt_ || reply != acknowledge;
+    return reply;
 }
 
 // Whether an acknowledged attention means that the board waits for a command. Where it takes data

@@ -105,6 +105,12 @@ void HostileRun::WantPart(int address) {
     Want(address, 0xFF);
 }
 
+void HostileRun::WantFilling(int address) {
+    constexpr int longestRecord = 16;
+    for (int i = 0; i < longestRecord; ++i)
+        wanted_[(address + i) % memorySize].push_back(0xFF);
+}
+
 QStringList HostileRun::Violations() {
     link_.OpenRSComm(port_);
     if (!link_.OnlineMode())
@@ -149,4 +155,19 @@ void HostileRun::CheckFileIsWhole(const QString& name, const QByteArray& before,
     if (now != before && !isWhole(now))
         Fail(QStringLiteral("%1 is neither old nor whole: ").arg(name) +
              QString::fromLatin1(now.left(80)));
+}
+
+QString HostileRun::Log() const {
+    constexpr double pause = 0.04;
+    QString text;
+    double last = 0.0;
+    for (const haldenboard::LoggedByte& byte : line_.Log()) {
+        if (byte.at - last > pause)
+            text += QStringLiteral("\n%1 ").arg(byte.at, 0, 'f', 3);
+        last = byte.at;
+        text += QStringLiteral(" %1%2")
+                    .arg(byte.toBoard ? QStringLiteral(">") : QStringLiteral("<"))
+                    .arg(byte.value, 2, 16, QChar(u'0'));
+    }
+    return text;
 }

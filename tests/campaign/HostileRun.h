@@ -20,6 +20,10 @@ public:
 
     /// Runs it and gives what was found wrong; empty if all is well.
     QStringList Violations();
+    /// Keeps the bytes on the line from now on, for a look at a run that failed.
+    void KeepLog() { line_.KeepLog(true); }
+    /// The bytes: ">" to the board, "<" from it, with the seconds; a new line for each pause.
+    QString Log() const;
 
 private:
     static constexpr int memorySize = 65536;
@@ -58,6 +62,8 @@ private:
     void Want(int address, int value);
     /// The user asks for a change of a part of this byte.
     void WantPart(int address);
+    /// A record that breaks off is filled up with attentions by a board in program mode.
+    void WantFilling(int address);
 
     std::mt19937 random_;
     QString folder_;

@@ -23,6 +23,12 @@ bool IsOneLine(const QByteArray& text) {
     return text.endsWith("\r\n") && text.count('\n') == 1;
 }
 
+// The ident stands in the line as it stands in the board, line ends and all.
+bool IsRevLine(const QByteArray& text) {
+    constexpr qsizetype shortest = 8 + 4 + 2; // ident, checksum and revision, line end
+    return text.endsWith("\r\n") && text.size() >= shortest;
+}
+
 QByteArray Hex(int value, int digits) {
     return QByteArray::number(value, 16).toUpper().rightJustified(digits, '0');
 }
@@ -118,8 +124,11 @@ void HostileRun::DumpProgram() {
     Write(QStringLiteral("A.rev"), "PUMP1:301\r\n");
     Write(QStringLiteral("A.hex"), hex + ":00000001FF\r\n");
     Write(QStringLiteral("A.hdn"), QByteArray(1, k2014) + "\r\n");
-    for (const auto& [address, value] : image)
+    for (const auto& [address, value] : image) {
         Want(address, value);
+        WantFilling(address | 0xFF);
+    }
+    WantFilling(memorySize - 1);
     for (int i = 0; i < identLength; ++i)
         WantPart(identAddress + i);
     WantPart(dumpRequestAddress);
@@ -152,7 +161,7 @@ void HostileRun::UploadProgram() {
     link_.UploadFile(Path(QStringLiteral("UP.hdn")));
     link_.SetInUploadMode(true);
     link_.UploadProgram();
-    CheckFileIsWhole(QStringLiteral("UP.rev"), rev, IsOneLine);
+    CheckFileIsWhole(QStringLiteral("UP.rev"), rev, IsRevLine);
     CheckFileIsWhole(QStringLiteral("UP.hex"), hex, IsWholeHex);
 }
 
