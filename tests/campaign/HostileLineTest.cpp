@@ -39,7 +39,8 @@ TEST_P(HostileLine, EveryRunEndsAndHarmsNothing) {
     }
 }
 
-// QUENTOR_CAMPAIGN_SEED=3786 campaign_test --gtest_also_run_disabled_tests --gtest_filter=HostileRun.* shows one run byte by byte.
+// QUENTOR_CAMPAIGN_SEED=3786 campaign_test --gtest_also_run_disabled_tests
+// --gtest_filter=HostileRun.* shows one run byte by byte.
 TEST(HostileRun, DISABLED_OneSeedByteByByte) {
     const int seed = qEnvironmentVariableIntValue("QUENTOR_CAMPAIGN_SEED");
     const QTemporaryDir folder(FastFolder());

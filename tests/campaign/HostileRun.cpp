@@ -7,13 +7,21 @@
 namespace {
 constexpr int k2010 = 49;
 constexpr int k2016 = 54;
+constexpr std::array limitSwitchBoards{55, 62, 63, 64, 67, 69};
+constexpr unsigned runsOfALimitSwitch = 3; // one of so many
+
+int ModelOfRun(unsigned seed) {
+    if (seed % runsOfALimitSwitch == 0)
+        return limitSwitchBoards.at(seed / runsOfALimitSwitch % limitSwitchBoards.size());
+    return static_cast<int>(k2010 + seed % (k2016 - k2010 + 1));
+}
 constexpr int thingsDone = 4; // by the user, at most
 } // namespace
 
 HostileRun::HostileRun(unsigned seed, const QString& folder)
     : random_(seed), folder_(folder), applicationFolder_(folder), user_(random_),
-      board_(static_cast<int>(k2010 + seed % (k2016 - k2010 + 1))), line_(board_),
-      port_(clock_, line_), link_(user_, clock_, busy_, applicationFolder_) {
+      board_(ModelOfRun(seed)), line_(board_), port_(clock_, line_),
+      link_(user_, clock_, busy_, applicationFolder_) {
     line_.KeepLog(false);
     port_.Watch(link_);
     FillMemory();
@@ -45,6 +53,15 @@ void HostileRun::FillMemory() {
                     static_cast<std::uint8_t>(address * 31 + offset));
     for (int address = 0; address < memorySize; ++address)
         memoryBefore_.push_back(board_.Peek(static_cast<std::uint16_t>(address)));
+}
+
+// Channels that nobody touches later tell whether a command went astray.
+void HostileRun::ProgramChannels() {
+    const haldenboard::PlsUnit& pls = board_.Pls();
+    for (qint16 channel = 0; channel < pls.Channels(); channel = qint16(channel + 3))
+        link_.SingleSetpoint(channel, qint16(channel), qint16(channel + 40), true);
+    for (int channel = 0; channel < pls.Channels(); ++channel)
+        edgesBefore_.push_back(pls.Edges(channel));
 }
 
 void HostileRun::SpoilLine() {
@@ -115,6 +132,8 @@ QStringList HostileRun::Violations() {
     link_.OpenRSComm(port_);
     if (!link_.OnlineMode())
         Fail(QStringLiteral("a good line does not go online"));
+    if (board_.Model().IsPls())
+        ProgramChannels();
     SpoilLine();
     try {
         for (int thing = Number(1, thingsDone); thing > 0; --thing) {
@@ -126,6 +145,8 @@ QStringList HostileRun::Violations() {
         Fail(QStringLiteral("it does not end"));
     }
     CheckMemory();
+    CheckLimitSwitch();
+    CheckMachineRuns();
     if (port_.BytesAfterFailure() > 0)
         Fail(QStringLiteral("%1 bytes went out in a communication failure")
                  .arg(port_.BytesAfterFailure()));
@@ -147,6 +168,25 @@ void HostileRun::CheckMemory() {
                  wanted->second.end())
             Fail(QStringLiteral("%1 holds %2, which nobody sent").arg(address).arg(value));
     }
+}
+
+// Out of reach is what nobody asked for: another channel, the offset, the configuration.
+void HostileRun::CheckLimitSwitch() {
+    const haldenboard::PlsUnit& pls = board_.Pls();
+    if (anyConfiguration_ || edgesBefore_.empty())
+        return;
+    if (!anyOffset_ && pls.Offset() != 0)
+        Fail(QStringLiteral("the offset became %1 unasked").arg(pls.Offset()));
+    for (int channel = 0; channel < pls.Channels(); ++channel) {
+        const auto place = static_cast<std::size_t>(channel);
+        if (!anyEdges_.test(place) && pls.Edges(channel) != edgesBefore_[place])
+            Fail(QStringLiteral("channel %1 changed unasked").arg(channel));
+    }
+}
+
+void HostileRun::CheckMachineRuns() {
+    if (board_.InProgramMode() && !stopsMachine_)
+        Fail(QStringLiteral("the machine was stopped"));
 }
 
 void HostileRun::CheckFileIsWhole(const QString& name, const QByteArray& before,

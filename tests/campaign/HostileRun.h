@@ -6,6 +6,7 @@
 #include "board/SimulatedBoard.h"
 #include "campaign/CheckedPort.h"
 #include "campaign/RandomUser.h"
+#include "programset/PLSRecord.h"
 #include "support/VirtualClock.h"
 #include <bitset>
 #include <map>
@@ -30,12 +31,14 @@ private:
 
     // Setting.
     void FillMemory();
+    void ProgramChannels();
     void SpoilLine();
     void SpoilWithChances();
     void SpoilAtOneReply();
 
     // What the user does.
     void DoSomething();
+    void DoSomethingWithLimitSwitch();
     void ReopenAfterFailure();
     void ReadVariable();
     void WriteVariable();
@@ -45,9 +48,18 @@ private:
     void DownloadData();
     void UploadData();
     void DownloadDatafile();
+    void AskLimitSwitch();
+    void ProgramChannel();
+    void SetOffset();
+    void SendConfiguration();
+    void UploadLimitSwitch();
+    void DownloadLimitSwitch();
+    void ClearLimitSwitch();
 
     // What must hold.
     void CheckMemory();
+    void CheckLimitSwitch();
+    void CheckMachineRuns();
     void CheckDumpComplete(const std::map<int, int>& image, std::size_t boxesBefore);
     void CheckFileIsWhole(const QString& name, const QByteArray& before,
                           const std::function<bool(const QByteArray&)>& isWhole);
@@ -81,4 +93,11 @@ private:
     std::vector<std::uint8_t> memoryBefore_;
     std::map<int, std::vector<int>> wanted_;
     std::bitset<memorySize> anyValue_;
+    bool stopsMachine_ = false; // a dump was asked for
+
+    using Edges = std::vector<haldenboard::PlsEdge>;
+    std::vector<Edges> edgesBefore_; // by channel
+    std::bitset<plsChannelPlaces> anyEdges_;
+    bool anyConfiguration_ = false;
+    bool anyOffset_ = false;
 };

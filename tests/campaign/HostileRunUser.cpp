@@ -35,6 +35,8 @@ QByteArray Hex(int value, int digits) {
 } // namespace
 
 void HostileRun::DoSomething() {
+    if (board_.Model().IsPls())
+        return DoSomethingWithLimitSwitch();
     using Deed = void (HostileRun::*)();
     constexpr std::array<Deed, 12> deeds{
         &HostileRun::ReadVariable,     &HostileRun::ReadVariable,  &HostileRun::WriteVariable,
@@ -133,6 +135,7 @@ void HostileRun::DumpProgram() {
         WantPart(identAddress + i);
     WantPart(dumpRequestAddress);
     WantPart(faultCodeAddress);
+    stopsMachine_ = true;
     story_ += QStringLiteral("dump of %1 bytes").arg(image.size());
     const std::size_t boxes = user_.Boxes().size();
     link_.DownloadFile(Path(QStringLiteral("A.hdn")));
