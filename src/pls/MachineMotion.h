@@ -8,7 +8,8 @@ class MachineMotion {
 public:
     /// The view goes online or offline: nothing is known.
     void Clear() { *this = MachineMotion(); }
-    /// A speed was read, in RPM, 0 or more.
+    /// A speed was read, in RPM. Only for a reading that the board answered: a failed one gives 0,
+    /// and a machine taken for stopped unlocks its configuration.
     void SpeedRead(int rpm);
 
     /// The last speed read was 0.
@@ -17,14 +18,11 @@ public:
     bool JustStopped() const { return justStopped_; }
     /// It was 0 at the reading before, and is above 0 now.
     bool JustStarted() const { return justStarted_; }
-    /// MachineStopped as of the reading before the next one.
-    bool LastStopped() const { return lastStopped_; }
 
 private:
     bool machineStopped_ = false;
     bool justStopped_ = false;
     bool justStarted_ = false;
-    bool lastStopped_ = false;
 };
 
 /// Texts of the four panels of sbrMachineTiming.

@@ -115,10 +115,10 @@ private:
     static std::size_t Place(TimingControl control) { return static_cast<std::size_t>(control); }
     void Set(TimingControl control, bool enabled) { controls_[Place(control)] = enabled; }
     void Set(TimingFamily family, int index, bool enabled);
-    void Set(TimingFamily family, int first, int last, bool enabled);
+    void SetRange(TimingFamily family, int first, int last, bool enabled);
     void SetAll(TimingFamily family, bool enabled);
     void SetEntries(int first, int last, bool enabled);
-    void SetChannelButtons(bool enabled);
+    void SetChannelEditor(bool enabled);
     void SetChannelControls(bool enabled);
     void SetOffsetControls(bool enabled);
     void EnableR6500Config();
