@@ -1,4 +1,4 @@
-#include "pls/TimingEnablement.h"
+#include "TimingStates.h"
 
 #include <gtest/gtest.h>
 #include <ostream>
@@ -7,28 +7,7 @@
 namespace {
 using Control = TimingControl;
 using Family = TimingFamily;
-
-constexpr qint16 r6041 = 64;
-constexpr qint16 r6021 = 67;
-constexpr qint16 r6500 = 69;
-
-enum class State {
-    Opened,
-    Offline,
-    OfflineAgain,
-    Connecting,
-    UploadFailed,
-    Moving,
-    Stopped,
-    StoppedChanged,
-    UndoneByHand,
-    StartedAgain,
-    StartedWithChange,
-    ChannelBusy,
-    ResetBusy,
-    OffsetBusy,
-    OffsetSent,
-};
+using namespace TimingStates;
 
 // "x" enabled, "-" disabled; frames not shown ".".
 struct Row {
@@ -215,46 +194,9 @@ private:
     TimingEnablement controls_;
 };
 
-std::string Marks(const TimingEnablement& controls, Family family) {
-    std::string marks;
-    for (int index = 0; index < FamilySize(family); ++index)
-        marks += controls.IsEnabled(family, index) ? 'x' : '-';
-    return marks;
-}
-
-std::string Marks(const TimingEnablement& controls, std::initializer_list<Control> singles) {
-    std::string marks;
-    for (const Control control : singles)
-        marks += controls.IsEnabled(control) ? 'x' : '-';
-    return marks;
-}
-
-std::string FrameMarks(const TimingEnablement& controls) {
-    std::string marks = Marks(controls, Family::fraTmg);
-    for (int frame = 0; frame < FamilySize(Family::fraTmg); ++frame) {
-        if (!controls.FrameVisible(frame))
-            marks[static_cast<std::size_t>(frame)] = '.';
-    }
-    return marks;
-}
-
 std::string EditorMarks(const TimingEnablement& controls) {
     return Marks(controls, Family::txtTmg) + ' ' + Marks(controls, Family::updTmg) + ' ' +
            Marks(controls, Family::lblTmg);
-}
-
-// All flags, to tell whether an operation changed any.
-std::string AllMarks(const TimingEnablement& controls) {
-    std::string marks = FrameMarks(controls);
-    for (int family = 0; family < static_cast<int>(Family::Count); ++family)
-        marks += Marks(controls, static_cast<Family>(family)) + ' ';
-    for (int control = 0; control < static_cast<int>(Control::Count); ++control)
-        marks += Marks(controls, {static_cast<Control>(control)});
-    return marks;
-}
-
-TimingEnablement InState(qint16 board, bool checked, State state) {
-    return Script(Row{"", board, checked, state, "", "", "", "", "", "", ""}).Reach();
 }
 
 class TimingEnablementTest : public testing::TestWithParam<Row> {};
@@ -262,7 +204,7 @@ class TimingEnablementTest : public testing::TestWithParam<Row> {};
 
 TEST_P(TimingEnablementTest, ShowsAndEnables) {
     const Row& row = GetParam();
-    const TimingEnablement controls = Script(row).Reach();
+    const TimingEnablement controls = InState(row.board, row.checked, row.state);
     EXPECT_EQ(FrameMarks(controls), row.frames);
     for (const Family family : {Family::lblPLS_CFG, Family::txtPLS_CFG, Family::updPLS_CFG})
         EXPECT_EQ(Marks(controls, family), row.entries);
@@ -286,7 +228,8 @@ INSTANTIATE_TEST_SUITE_P(States, TimingEnablementTest, testing::ValuesIn(rows),
                          [](const auto& row) { return row.param.name; });
 
 TEST_P(TimingEnablementTest, NothingIsLiveInAFrameThatIsOffOrHidden) {
-    const TimingEnablement controls = Script(GetParam()).Reach();
+    const Row& row = GetParam();
+    const TimingEnablement controls = InState(row.board, row.checked, row.state);
     for (int family = 0; family < static_cast<int>(Family::Count); ++family) {
         const auto members = static_cast<Family>(family);
         for (int index = 0; index < FamilySize(members); ++index) {
@@ -298,130 +241,4 @@ TEST_P(TimingEnablementTest, NothingIsLiveInAFrameThatIsOffOrHidden) {
                 << family << " " << index;
         }
     }
-}
-
-TEST(TimingEnablement, TheListOfBoardsIsDisabledInAllOnlineStates) {
-    for (const State state :
-         {State::Connecting, State::Moving, State::Stopped, State::StoppedChanged,
-          State::StartedAgain, State::ChannelBusy, State::ResetBusy, State::OffsetBusy}) {
-        const TimingEnablement controls = InState(r6041, true, state);
-        EXPECT_FALSE(controls.IsLive(Control::cboTargetBoard));
-        EXPECT_FALSE(controls.IsLive(Control::lblTargetBoard));
-    }
-}
-
-TEST(TimingEnablement, NoConfigurationOrOffsetIsLiveBesideAMovingMachine) {
-    for (const qint16 board : {r6500, r6041}) {
-        for (const State state : {State::Moving, State::StartedAgain, State::StartedWithChange}) {
-            const TimingEnablement controls = InState(board, true, state);
-            for (int entry = 0; entry < FamilySize(Family::txtPLS_CFG); ++entry)
-                EXPECT_FALSE(controls.IsLive(Family::txtPLS_CFG, entry));
-            EXPECT_FALSE(controls.IsLive(Family::txtTmg, 0));
-            EXPECT_FALSE(controls.IsLive(Control::cmdSetOffset));
-            EXPECT_FALSE(controls.IsLive(Control::cmdResetPLSConfig));
-        }
-    }
-}
-
-TEST(TimingEnablement, AnEntryLeftAsTheMachineStartsMakesNoOptionLive) {
-    TimingEnablement controls = InState(r6500, false, State::StartedAgain);
-    controls.EntryStored();
-    controls.FitChannelOptions(OptionsForScale(360));
-    for (int option = 0; option < FamilySize(Family::optPlsChan); ++option)
-        EXPECT_FALSE(controls.IsLive(Family::optPlsChan, option));
-}
-
-TEST(TimingEnablement, WhileTheOffsetIsSentItsEntryCannotBeReached) {
-    const TimingEnablement controls = InState(r6500, false, State::OffsetBusy);
-    EXPECT_FALSE(controls.IsLive(Family::txtTmg, 0));
-}
-
-TEST(TimingEnablement, ThirtyTwoChannelsAreChosenOnOneBoardAndOnlyOnline) {
-    for (const qint16 board : {55, 62, 67, 63, 64, 69}) {
-        for (const bool online : {false, true}) {
-            TimingEnablement controls;
-            controls.SelectBoard(board, online);
-            EXPECT_EQ(controls.IsEnabled(Family::optR6PlsChan, 1), board == r6041 && online);
-        }
-    }
-    TimingEnablement controls;
-    controls.SelectBoard(r6041, true);
-    controls.SelectBoard(r6021, true);
-    EXPECT_FALSE(controls.IsEnabled(Family::optR6PlsChan, 1));
-}
-
-TEST(TimingEnablement, ChoosingABoardChangesFramesShownAndOneOptionOnly) {
-    TimingEnablement controls = InState(r6021, false, State::Stopped);
-    const std::string before = AllMarks(controls);
-    controls.SelectBoard(r6500, true);
-    EXPECT_EQ(FrameMarks(controls), "--xxx...x");
-    controls.SelectBoard(r6021, true);
-    EXPECT_EQ(AllMarks(controls), before);
-}
-
-TEST(TimingEnablement, ACheckBoxFreesAndLocksItsEntries) {
-    TimingEnablement controls = InState(r6041, false, State::Stopped);
-    controls.BrakeWearClicked(true, true);
-    EXPECT_EQ(Marks(controls, Family::txtPLS_CFG), "----------xxxxxxx--");
-    EXPECT_EQ(Marks(controls, Family::lblBWComp), "xx");
-    controls.SpeedWindowClicked(true, true);
-    EXPECT_EQ(Marks(controls, Family::updPLS_CFG), standardAll);
-    controls.BrakeWearClicked(false, true);
-    EXPECT_EQ(Marks(controls, Family::lblPLS_CFG), "----------xx-----xx");
-    EXPECT_EQ(Marks(controls, Family::lblBWComp), "--");
-    controls.SpeedWindowClicked(false, true);
-    EXPECT_EQ(Marks(controls, Family::txtPLS_CFG), standardPlain);
-}
-
-TEST(TimingEnablement, ACheckBoxDoesNothingBeforeTheFirstPassOnline) {
-    TimingEnablement controls = InState(r6041, true, State::Stopped);
-    const std::string before = AllMarks(controls);
-    controls.BrakeWearClicked(false, false);
-    controls.SpeedWindowClicked(false, false);
-    EXPECT_EQ(AllMarks(controls), before);
-}
-
-TEST(TimingEnablement, AnAcceptedEntryLets8ChannelsBeChosen) {
-    TimingEnablement controls = InState(r6500, false, State::Stopped);
-    controls.FitChannelOptions({false, true, false, true});
-    controls.EntryStored();
-    EXPECT_EQ(Marks(controls, Family::optPlsChan), "xx-x");
-}
-
-TEST(TimingEnablement, OptionsFollowTheScale) {
-    TimingEnablement controls = InState(r6500, false, State::Stopped);
-    controls.FitChannelOptions(OptionsForScale(2048));
-    EXPECT_EQ(Marks(controls, Family::optPlsChan), "x---");
-    controls.FitChannelOptions(OptionsForScale(512));
-    EXPECT_EQ(Marks(controls, Family::optPlsChan), "xxx-");
-}
-
-TEST(TimingEnablement, ATurnOfTheLoopThatChangesNothingTouchesNothing) {
-    for (const State state : {State::Stopped, State::ChannelBusy}) {
-        TimingEnablement controls = InState(r6500, false, state);
-        const std::string before = AllMarks(controls);
-        controls.AfterTick(true, false);
-        EXPECT_EQ(AllMarks(controls), before);
-    }
-    TimingEnablement changed = InState(r6500, false, State::StoppedChanged);
-    const std::string before = AllMarks(changed);
-    changed.AfterTick(true, true);
-    EXPECT_EQ(AllMarks(changed), before);
-}
-
-TEST(TimingEnablement, EachGroupOperationUndoesItsOpposite) {
-    TimingEnablement controls = InState(r6041, true, State::Stopped);
-    const std::string before = AllMarks(controls);
-    controls.DisableChannelControls();
-    EXPECT_NE(AllMarks(controls), before);
-    controls.EnableChannelControls();
-    EXPECT_EQ(AllMarks(controls), before);
-    controls.DisableOffsetControls();
-    EXPECT_NE(AllMarks(controls), before);
-    controls.EnableOffsetControls();
-    EXPECT_EQ(AllMarks(controls), before);
-    controls.DisableConfigControls();
-    EXPECT_NE(AllMarks(controls), before);
-    controls.EnableConfigControls(true, true);
-    EXPECT_EQ(AllMarks(controls), before);
 }
