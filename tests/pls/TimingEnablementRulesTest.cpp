@@ -120,6 +120,25 @@ TEST(TimingEnablement, ATurnOfTheLoopThatChangesNothingTouchesNothing) {
     EXPECT_EQ(AllMarks(changed), before);
 }
 
+TEST(TimingEnablement, WorkThatEndsDoesNotUnlockChannelsBesideAChangedConfiguration) {
+    TimingEnablement controls = InState(r6500, false, State::StoppedChanged);
+    const std::string before = AllMarks(controls);
+    controls.EnableChannelControls();
+    controls.EnableOffsetControls();
+    controls.AfterTick(true, true);
+    EXPECT_EQ(AllMarks(controls), before);
+}
+
+TEST(TimingEnablement, AFrameThatIsNotShownHoldsNothingLive) {
+    TimingEnablement controls = InState(r6041, true, State::Stopped);
+    EXPECT_TRUE(controls.IsLive(Family::txtPLS_CFG, 10));
+    EXPECT_TRUE(controls.IsLive(Control::chkR6BWComp));
+    controls.SelectBoard(r6500, true);
+    EXPECT_FALSE(controls.IsLive(Family::txtPLS_CFG, 10));
+    EXPECT_FALSE(controls.IsLive(Control::chkR6BWComp));
+    EXPECT_FALSE(controls.IsLive(Family::fraTmg, 5));
+}
+
 TEST(TimingEnablement, EachGroupOperationUndoesItsOpposite) {
     TimingEnablement controls = InState(r6041, true, State::Stopped);
     const std::string before = AllMarks(controls);
