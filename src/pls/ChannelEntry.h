@@ -31,6 +31,6 @@ struct ChannelEntered {
 };
 
 /// Validates the channel entry: `entered` is its numeric value, already within its limits. The
-/// setpoint shown belongs to the number before the octal correction, as the board's own panels
-/// have it: the down arrow from 10 reads binary channel 9, though the text then names 7.
+/// setpoint shown belongs to the number before the octal correction: the down arrow from 10 reads
+/// binary channel 9, though the text then names 7.
 ChannelEntered ValidateChannelEntry(const PLSRecord& record, int entered);

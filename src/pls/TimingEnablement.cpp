@@ -198,9 +198,9 @@ void TimingEnablement::SpeedWindowClicked(bool checked, bool firstPassOnline) {
 }
 
 void TimingEnablement::AfterTick(bool machineStopped, bool configChanged) {
-    const bool resetEnabled = IsEnabled(Control::cmdResetPLSConfig);
+    const bool lockedByChange = IsEnabled(Control::cmdResetPLSConfig);
     Set(Control::cmdResetPLSConfig, machineStopped && configChanged);
-    if (!machineStopped || configChanged == resetEnabled)
+    if (!machineStopped || (!configChanged && !lockedByChange))
         return;
     SetChannelControls(!configChanged);
     SetOffsetControls(!configChanged);

@@ -97,9 +97,10 @@ public:
     /// chkR6SpdWinEn was clicked: entries 17 and 18. Likewise.
     void SpeedWindowClicked(bool checked, bool firstPassOnline);
 
-    /// The end of a turn of the loop that read the board: a changed configuration that is not in
-    /// the board locks channels and offset until it is sent or undone; a moving machine takes no
-    /// configuration.
+    /// The end of a turn of the loop that read the board: while a standing machine's configuration
+    /// is changed and not in the board, the reset button is on and channels and offset are locked;
+    /// once it is sent or undone, they come back. A moving machine takes no configuration: the
+    /// reset button goes off and all else stays.
     void AfterTick(bool machineStopped, bool configChanged);
     /// A speed was read. Just stopped: configuration and offset come on, and the view validates
     /// entry 0 on the R6500 layout; just started: they go off.

@@ -38,8 +38,9 @@ TEST(ChannelEntry, EveryNumberBecomesAnOctalNameAndOctalNamesStay) {
         const int name = OctalStep(number);
         EXPECT_LE(name % 10, 7) << number;
         EXPECT_LE(name, 77) << number;
-        if (number % 10 <= 7)
+        if (number % 10 <= 7) {
             EXPECT_EQ(name, number);
+        }
     }
 }
 
