@@ -2,6 +2,7 @@
 
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
+#include "app/TimingViews.h"
 #include "app/TransferViews.h"
 #include "controls/ViewHelpers.h"
 #include "link/views/frmDownloadProg.h"
@@ -43,6 +44,8 @@ void Application::RegisterViews() {
     statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
+    timing_ =
+        std::make_unique<TimingViews>(platform_, link_, loops_, transfers_->Runner(), window_);
 }
 
 void Application::RegisterSetViews() {

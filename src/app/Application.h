@@ -11,6 +11,7 @@ class ProcessStart;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
+class TimingViews;
 class TransferViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
@@ -56,4 +57,5 @@ private:
     std::unique_ptr<TransferViews> transfers_;
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
+    std::unique_ptr<TimingViews> timing_;
 };

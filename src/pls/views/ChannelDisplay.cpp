@@ -1,6 +1,7 @@
 #include "pls/views/ChannelDisplay.h"
 
 #include "base/Dialogs.h"
+#include "base/DoEvents.h"
 #include "base/RunTimeError.h"
 #include "controls/grid/Grid.h"
 #include "jobs/JobRunner.h"
@@ -77,13 +78,18 @@ void ChannelDisplay::UploadChannels() {
         screen_.EnableChannelControls();
 }
 
+// Each step of the progress yields: only controls that are off by now could be touched.
 bool ChannelDisplay::RecallChannel(qint16 channel, bool withProgress) {
-    form_.lblSetpointRecall->clear();
-    form_.lblSetpointRecall->setVisible(withProgress);
-    const auto progress = [this](const QString& text) { form_.lblSetpointRecall->setText(text); };
-    RecallChannelSetpoints(seams_.link, seams_.dialogs, channel,
-                           withProgress ? RecallProgress(progress) : RecallProgress());
-    form_.lblSetpointRecall->hide();
+    QLabel& label = *form_.lblSetpointRecall;
+    label.clear();
+    label.setVisible(withProgress);
+    const auto progress = [&label](const QString& caption) {
+        label.setText(caption);
+        DoEvents();
+    };
+    RecallChannelSetpoints(channel, seams_.link, seams_.dialogs,
+                           withProgress ? RecallLabel(progress) : RecallLabel());
+    label.hide();
     return state_.running && seams_.link.OnlineMode() && !seams_.link.CommError();
 }
 

@@ -153,11 +153,8 @@ void TimingScreen::DisableConfigControls() {
 void TimingScreen::AfterTick(bool configChanged) {
     TimingEnablement& enablement = state_.enablement;
     const bool before = enablement.IsEnabled(Family::txtTmg, TimingEntryIndex::Offset);
-    const bool resetBefore = enablement.IsEnabled(Control::cmdResetPLSConfig);
     enablement.AfterTick(state_.motion.MachineStopped(), configChanged);
     const bool after = enablement.IsEnabled(Family::txtTmg, TimingEntryIndex::Offset);
-    if (before == after && resetBefore == enablement.IsEnabled(Control::cmdResetPLSConfig))
-        return;
     ShowEnablement();
     if (before != after)
         ShowTimingText(TimingEntryIndex::Offset,
