@@ -21,6 +21,10 @@ namespace {
 constexpr int boxCharacters = 5; // room for four digits and what is typed by mistake
 constexpr int gridColumns = 3;
 constexpr int rowsAtLoad = 24;
+constexpr int darkBelow = 128; // lightness of a ground, 0 to 255
+
+const QColor gridTextOnLight(0x00, 0x00, 0xff);
+const QColor gridTextOnDark(0x8a, 0xb8, 0xff);
 
 QString IndexedName(const char* name, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
@@ -199,4 +203,12 @@ void TimingForm::ShowPanel(int panel, const QString& text) {
     QLabel* label = panels[static_cast<std::size_t>(panel)];
     if (label->text() != text)
         label->setText(text);
+}
+
+void TimingForm::ShowGridColours(const QPalette& palette) {
+    const bool dark = palette.color(QPalette::Base).lightness() < darkBelow;
+    QPalette own = palette;
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        own.setColor(group, QPalette::Text, dark ? gridTextOnDark : gridTextOnLight);
+    fgPLSChannels->setPalette(own);
 }

@@ -13,6 +13,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPalette;
 class QPushButton;
 class QRadioButton;
 class QWidget;
@@ -70,6 +71,8 @@ struct TimingForm {
     EntryParts& Timing(int index) { return timing[static_cast<std::size_t>(index)]; }
     /// Sets the text of a panel if it is another one.
     void ShowPanel(int panel, const QString& text);
+    /// The grid's texts in blue, or what is as good on a dark ground; grey while it is off.
+    void ShowGridColours(const QPalette& palette);
 
 private:
     // TimingForm.cpp: the controls.

@@ -33,6 +33,7 @@ frmTiming::frmTiming(const TimingSeams& seams, QWidget* parent)
     setObjectName(QStringLiteral("frmTiming"));
     setWindowTitle(QStringLiteral("PLS Timing"));
     gPLS = PLSRecord();
+    form_.ShowGridColours(palette());
     ConnectEntries();
     ConnectButtons();
     ConnectConfig();
@@ -146,6 +147,12 @@ void frmTiming::closeEvent(QCloseEvent* event) {
     loop_.Stop();
     seams_.loops.Leave(loop_);
     event->accept();
+}
+
+void frmTiming::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        form_.ShowGridColours(palette());
 }
 
 // A setpoint entry that was empty begins with 0.
