@@ -20,17 +20,27 @@ ChannelDisplay::ChannelDisplay(const TimingSeams& seams, TimingScreen& screen, C
     : seams_(seams), screen_(screen), config_(config), form_(screen.Form()),
       state_(screen.State()) {}
 
-void ChannelDisplay::DisplayPLSChannels() {
+void ChannelDisplay::Guarded(const std::function<void()>& act) {
     try {
+        act();
+    } catch (const RunTimeError& error) {
+        ShowErrorBox(seams_.dialogs, error, QStringLiteral("Display PLS Channels"),
+                     MsgStyle::Critical);
+    }
+}
+
+void ChannelDisplay::ReadBoardConfig() {
+    Guarded([this] { config_.ReadBoardConfig(); });
+}
+
+void ChannelDisplay::DisplayPLSChannels() {
+    Guarded([this] {
         config_.ReadBoardConfig();
         if (seams_.link.CommError())
             return;
         FillGrid();
         screen_.ShowSetpoint(ShowSetpoint(gPLS, 0, 0));
-    } catch (const RunTimeError& error) {
-        ShowErrorBox(seams_.dialogs, error, QStringLiteral("Display PLS Channels"),
-                     MsgStyle::Critical);
-    }
+    });
 }
 
 // The place in the grid stays: after an edit the user still sees what was edited.
@@ -106,6 +116,6 @@ void ChannelDisplay::FollowRow() {
 }
 
 void ChannelDisplay::RestoreSelected() {
-    screen_.ShowEnds(ShowSetpoint(gPLS, screen_.Channel(),
-                                  screen_.TimingNumber(TimingEntryIndex::Setpoint)));
+    screen_.ShowEnds(
+        ShowSetpoint(gPLS, screen_.Channel(), screen_.TimingNumber(TimingEntryIndex::Setpoint)));
 }

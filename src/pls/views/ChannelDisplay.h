@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pls/views/TimingSeams.h"
-#include <optional>
+#include <functional>
 #include <QtGlobal>
 
 class ConfigEditor;
@@ -14,6 +14,9 @@ class ChannelDisplay {
 public:
     ChannelDisplay(const TimingSeams& seams, TimingScreen& screen, ConfigEditor& config);
 
+    /// Reads the board's configuration and shows it (see ConfigEditor). A run-time error, as over
+    /// an answer out of all bounds, is reported by a box.
+    void ReadBoardConfig();
     /// Online, reads the configuration again; then fills the grid from gPLS and shows channel 0 in
     /// the entries. A run-time error is reported by a box.
     void DisplayPLSChannels();
@@ -34,6 +37,7 @@ public:
     void FitRows();
 
 private:
+    void Guarded(const std::function<void()>& act);
     void FillGrid();
     int RowsInSight() const;
 

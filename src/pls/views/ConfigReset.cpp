@@ -43,14 +43,13 @@ ConfigReset::Sent ConfigReset::SendUntilTaken() {
 }
 
 bool ConfigReset::UserRetries() {
-    return seams_.dialogs.MsgBox(
-               QStringLiteral("Unable to Reset PLS Configuration Parameters"),
-               MsgStyle::RetryCancelQuestion,
-               QStringLiteral("PLS Config Download")) == MsgAnswer::Retry;
+    return seams_.dialogs.MsgBox(QStringLiteral("Unable to Reset PLS Configuration Parameters"),
+                                 MsgStyle::RetryCancelQuestion,
+                                 QStringLiteral("PLS Config Download")) == MsgAnswer::Retry;
 }
 
 void ConfigReset::ReadBack() {
     screen_.State().gPLSUploadComplete = false;
-    config_.ReadBoardConfig();
+    channels_.ReadBoardConfig();
     channels_.UploadChannels();
 }

@@ -129,6 +129,6 @@ void CycleStripView::PaintMarker(QPainter& painter) const {
     painter.drawLine(bar.left(), y, bar.right(), y);
     painter.setPen(Qt::NoPen);
     painter.setBrush(markerColour);
-    painter.drawPolygon(
-        QPolygon({QPoint(bar.left(), y - 5), QPoint(bar.left() + 8, y), QPoint(bar.left(), y + 5)}));
+    painter.drawPolygon(QPolygon(
+        {QPoint(bar.left(), y - 5), QPoint(bar.left() + 8, y), QPoint(bar.left(), y + 5)}));
 }

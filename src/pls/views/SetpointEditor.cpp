@@ -160,9 +160,9 @@ bool SetpointEditor::ClearInBoard(qint16 channel) {
             return false;
         if (cleared)
             return channels_.RecallChannel(channel, false);
-        const int answer = seams_.dialogs.MsgBox(
-            QLatin1String(SetpointTexts::unableToClear), MsgStyle::RetryCancelQuestion,
-            QLatin1String(SetpointTexts::clearChannelTitle));
+        const int answer = seams_.dialogs.MsgBox(QLatin1String(SetpointTexts::unableToClear),
+                                                 MsgStyle::RetryCancelQuestion,
+                                                 QLatin1String(SetpointTexts::clearChannelTitle));
         if (answer != MsgAnswer::Retry)
             break;
     }
@@ -170,9 +170,9 @@ bool SetpointEditor::ClearInBoard(qint16 channel) {
 }
 
 void SetpointEditor::cmdClearAll_Click() {
-    const int answer = seams_.dialogs.MsgBox(QLatin1String(SetpointTexts::clearAll),
-                                             MsgStyle::YesNoCancelQuestion,
-                                             QLatin1String(SetpointTexts::clearAllTitle));
+    const int answer =
+        seams_.dialogs.MsgBox(QLatin1String(SetpointTexts::clearAll), MsgStyle::YesNoCancelQuestion,
+                              QLatin1String(SetpointTexts::clearAllTitle));
     if (answer != MsgAnswer::Yes)
         return;
     const BusyHandler busy(screen_);

@@ -78,8 +78,8 @@ void MakeGroup(std::array<QRadioButton*, count>& options, const char* name,
 } // namespace
 
 TimingForm::TimingForm(QWidget& view)
-    : lblTargetBoard(PlainLabel(QStringLiteral("lblTargetBoard"), QStringLiteral("Target Board:"),
-                                &view)),
+    : lblTargetBoard(
+          PlainLabel(QStringLiteral("lblTargetBoard"), QStringLiteral("Target Board:"), &view)),
       cboTargetBoard(new QComboBox(&view)) {
     cboTargetBoard->setObjectName(QStringLiteral("cboTargetBoard"));
     for (const PLSBoard& board : PLSBoards())
@@ -98,9 +98,9 @@ TimingForm::TimingForm(QWidget& view)
 
 void TimingForm::MakeFrames(QWidget& view) {
     constexpr const char* captions[] = {
-        "PLS Configuration", "Speed Compensation", "Timing Setpoints",
-        "Resolver Offset",   "PLS Channel",        "PLS Configuration",
-        "CH00 Brake Wear Comp.", "CH17 Speed Window", "Channel Setpoint"};
+        "PLS Configuration",     "Speed Compensation", "Timing Setpoints",
+        "Resolver Offset",       "PLS Channel",        "PLS Configuration",
+        "CH00 Brake Wear Comp.", "CH17 Speed Window",  "Channel Setpoint"};
     for (std::size_t i = 0; i < fraTmg.size(); ++i) {
         fraTmg[i] = new QGroupBox(QLatin1String(captions[i]), &view);
         fraTmg[i]->setObjectName(IndexedName("fraTmg", static_cast<int>(i)));
@@ -135,8 +135,8 @@ void TimingForm::MakeTimingEntries() {
 }
 
 void TimingForm::MakeOptions() {
-    MakeGroup(optPlsChan, "optPlsChan",
-              {"8 Channels", "16 Channels", "32 Channels", "64 Channels"}, fraTmg[0]);
+    MakeGroup(optPlsChan, "optPlsChan", {"8 Channels", "16 Channels", "32 Channels", "64 Channels"},
+              fraTmg[0]);
     MakeGroup(optR6PlsChan, "optR6PlsChan", {"16 Channels", "32 Channels"}, fraTmg[5]);
     chkR6BWComp =
         Make<QCheckBox>("chkR6BWComp", QStringLiteral("Brake Wear Compensation"), fraTmg[6]);

@@ -1,15 +1,15 @@
 #include "controls/grid/Grid.h"
 #include "pls/views/CycleStripView.h"
 #include "pls/views/TimingForm.h"
+#include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QBoxLayout>
-#include <QGridLayout>
 
 namespace {
 constexpr int panelCharacters = 15; // "Position: 4095" and a little room

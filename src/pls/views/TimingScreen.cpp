@@ -157,8 +157,7 @@ void TimingScreen::AfterTick(bool configChanged) {
     const bool after = enablement.IsEnabled(Family::txtTmg, TimingEntryIndex::Offset);
     ShowEnablement();
     if (before != after)
-        ShowTimingText(TimingEntryIndex::Offset,
-                       after ? QStringLiteral("0") : QStringLiteral("-"));
+        ShowTimingText(TimingEntryIndex::Offset, after ? QStringLiteral("0") : QStringLiteral("-"));
 }
 
 void TimingScreen::ShowSetpoint(const ShownSetpoint& shown) {
@@ -214,7 +213,8 @@ qint16 TimingScreen::Channel() const {
 }
 
 Setpoint TimingScreen::TypedSetpoint() const {
-    return {Held16(TimingNumber(TimingEntryIndex::Off)), Held16(TimingNumber(TimingEntryIndex::On))};
+    return {Held16(TimingNumber(TimingEntryIndex::Off)),
+            Held16(TimingNumber(TimingEntryIndex::On))};
 }
 
 // Nothing is asked of the board for it.

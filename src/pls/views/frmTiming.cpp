@@ -158,8 +158,8 @@ void frmTiming::changeEvent(QEvent* event) {
 // A setpoint entry that was empty begins with 0.
 void frmTiming::EntryEntered(int entry) {
     gridEvents_.ClearEscape();
-    QLineEdit* box = entry < plsEntryCount ? form_.Config(entry).box
-                                           : form_.Timing(entry - plsEntryCount).box;
+    QLineEdit* box =
+        entry < plsEntryCount ? form_.Config(entry).box : form_.Timing(entry - plsEntryCount).box;
     entered_ = box->text();
     const QString number = QString::number(WholeNumberValue(entered_));
     if (entry >= plsEntryCount && entered_ != number) {

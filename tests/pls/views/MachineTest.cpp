@@ -73,8 +73,8 @@ TEST_F(TimingMachine, TheFirstSpeedReadAfterGoingOnlineIf0CountsAsJustStopped) {
     EXPECT_FALSE(Config(10)->isEnabled());
     GoOnline();
     EXPECT_EQ(Panel(1), "RPM: 0");
-    EXPECT_THAT(Live(), UnorderedElementsAreArray(ChannelControls() + OffsetControls() +
-                                                  StandardConfig()));
+    EXPECT_THAT(Live(),
+                UnorderedElementsAreArray(ChannelControls() + OffsetControls() + StandardConfig()));
     EXPECT_EQ(Timing(0)->text(), "0");
 }
 
@@ -167,8 +167,8 @@ TEST_F(TimingMachine, AnEditOfTheConfigurationLocksChannelsAndOffsetUntilItIsUnd
     EXPECT_EQ(Timing(0)->text(), "-");
     Type(Config(11), "1");
     Rounds();
-    EXPECT_THAT(Live(), UnorderedElementsAreArray(ChannelControls() + OffsetControls() +
-                                                  StandardConfig()));
+    EXPECT_THAT(Live(),
+                UnorderedElementsAreArray(ChannelControls() + OffsetControls() + StandardConfig()));
     EXPECT_EQ(Timing(0)->text(), "0");
 }
 
@@ -253,10 +253,10 @@ TEST_F(TimingMachineR6500, ItsFramesAreShownAndTheOthersHidden) {
         EXPECT_TRUE(Frame(frame)->isVisible());
     for (const int frame : {5, 6, 7})
         EXPECT_FALSE(Frame(frame)->isVisible());
-    EXPECT_THAT(Live(), UnorderedElementsAreArray(
-                            ChannelControls() + OffsetControls() + Entries(0, 9) +
-                            QStringList{"optPlsChan(0)", "optPlsChan(1)", "optPlsChan(2)",
-                                        "optPlsChan(3)"}));
+    EXPECT_THAT(Live(),
+                UnorderedElementsAreArray(ChannelControls() + OffsetControls() + Entries(0, 9) +
+                                          QStringList{"optPlsChan(0)", "optPlsChan(1)",
+                                                      "optPlsChan(2)", "optPlsChan(3)"}));
 }
 
 TEST_F(TimingMachineOfNoBoard, AnyOtherSetIsTakenForAnR6500) {

@@ -189,8 +189,9 @@ TEST_F(TimingSetpoints, ARecallOfAnEmptyChannelLeavesOneZeroSetpoint) {
 TEST_F(TimingSetpoints, CancelOnTheOffsetQuestionResetsTheEntryTo0) {
     OpenOnline();
     Type(Timing(0), "100");
-    dialogs.ExpectBox("You are about to Change the Resolver Offset.\r\n\r\nDo you wish to continue?",
-                      yesNoCancel, "Set Offset", MsgAnswer::Cancel);
+    dialogs.ExpectBox(
+        "You are about to Change the Resolver Offset.\r\n\r\nDo you wish to continue?", yesNoCancel,
+        "Set Offset", MsgAnswer::Cancel);
     Click("cmdSetOffset");
     EXPECT_EQ(Timing(0)->text(), "0");
     EXPECT_EQ(Sent(offsetCommand), 0);

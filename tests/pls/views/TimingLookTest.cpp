@@ -37,11 +37,10 @@ protected:
         const QString pictures = qEnvironmentVariable("QUENTOR_PICTURES");
         if (pictures.isEmpty())
             return;
-        view.grab().save(QDir(pictures).filePath(
-            QString("timing-%1-%2-%3-%4.png")
-                .arg(state, GetParam().dark ? "dark" : "light")
-                .arg(GetParam().model)
-                .arg(qRound(100 * view.devicePixelRatioF()))));
+        view.grab().save(QDir(pictures).filePath(QString("timing-%1-%2-%3-%4.png")
+                                                     .arg(state, GetParam().dark ? "dark" : "light")
+                                                     .arg(GetParam().model)
+                                                     .arg(qRound(100 * view.devicePixelRatioF()))));
     }
     void ExpectNothingCut() {
         for (const auto* label : view.findChildren<QLabel*>()) {
