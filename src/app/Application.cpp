@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include "app/PLSTransfer.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
 #include "app/TimingViews.h"
@@ -41,6 +42,8 @@ void Application::RegisterViews() {
     };
     RegisterSetViews();
     transfers_ = std::make_unique<TransferViews>(platform_, link_, files_, window_);
+    plsTransfer_ = std::make_unique<PLSTransfer>(platform_, link_, transfers_->Jobs(),
+                                                 transfers_->Runner(), window_);
     statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);

@@ -7,6 +7,7 @@
 #include "shell/frmMDIMain.h"
 #include <memory>
 
+class PLSTransfer;
 class ProcessStart;
 class SerialPorts;
 class StatusTableViews;
@@ -55,6 +56,7 @@ private:
     ViewLoopRunner loops_;
     frmMDIMain window_;
     std::unique_ptr<TransferViews> transfers_;
+    std::unique_ptr<PLSTransfer> plsTransfer_;
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
     std::unique_ptr<TimingViews> timing_;

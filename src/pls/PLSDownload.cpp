@@ -40,8 +40,10 @@ void PLSJobs::DownloadPLSChannels(JobProgress& progress) {
 
 // What could not be read is not sent: a blank record would clear the board.
 void PLSJobs::Download(JobProgress& progress) {
-    if (!ReadPLSFileData(gHdnFile, dialogs_))
+    if (!ReadPLSFileData(gHdnFile, dialogs_)) {
+        ReportFailedConfiguration();
         return;
+    }
     if (!SendConfiguration())
         return;
     const int channels = ChannelPlacesInUse(gPLS);
@@ -64,11 +66,15 @@ bool PLSJobs::SendConfiguration() {
     if (link_.CommError())
         return false;
     if (!sent) {
-        dialogs_.MsgBox(QStringLiteral("Unable to Successfully Download the PLS Configuration"),
-                        MsgStyle::Exclamation, QStringLiteral("PLS Config Download"));
+        ReportFailedConfiguration();
         gPLSSnapshot = gPLS;
     }
     return sent;
+}
+
+void PLSJobs::ReportFailedConfiguration() {
+    dialogs_.MsgBox(QStringLiteral("Unable to Successfully Download the PLS Configuration"),
+                    MsgStyle::Exclamation, QStringLiteral("PLS Config Download"));
 }
 
 // The first setpoint takes those before out of the board.

@@ -16,7 +16,7 @@ public:
     /// Both must outlive the object.
     PLSJobs(RSComm& link, Dialogs& dialogs);
 
-    /// Makes the three known. The object must outlive `jobs`.
+    /// Makes the three known. None of them may run after the object has ended.
     void Register(WaitJobs& jobs);
     /// Who tells the board that the timing view has selected, if it has one. Without it the board
     /// is always that of the program set.
@@ -28,8 +28,8 @@ public:
     /// board answers out of all bounds is reported in a box and sets CommError.
     void UploadPLSChannels(JobProgress& progress);
     /// Job 7: fills gPLS from the two files of gHdnFile and sends it to the board. Files that
-    /// cannot be read send nothing. A setpoint that the board did not take is reported, and the job
-    /// goes on; channels that the file does not name are left alone.
+    /// cannot be read send nothing, as do sets of other boards. A setpoint that the board did not
+    /// take is reported, and the job goes on; channels that the file does not name are left alone.
     void DownloadPLSChannels(JobProgress& progress);
     /// Job 8: clears every channel of the board and reads it back into gPLS. Stops at a channel
     /// that cannot be cleared.
@@ -46,6 +46,7 @@ private:
     // PLSDownload.cpp
     void Download(JobProgress& progress);
     bool SendConfiguration();
+    void ReportFailedConfiguration();
     void DownloadChannel(qint16 channel, JobProgress& progress);
     void ReportFailedSetpoint(qint16 channel);
 

@@ -121,6 +121,7 @@ TEST_F(DownloadPLS, FilesThatCannotBeReadSendNothing) {
     WriteSetFile("PCF", "1699999" + QByteArray(41, '0') + "%\r\n");
     WriteSetFile("CHL", ":0360\r\n:0000\r\n|00100020\r\n");
     dialogs.ExpectBoxTitled(QStringLiteral("ReadPLSFileData()"), MsgAnswer::Ok);
+    dialogs.ExpectBoxTitled(QStringLiteral("PLS Config Download"), MsgAnswer::Ok);
     const int before = RepliesSoFar();
     Download();
     EXPECT_EQ(RepliesSoFar(), before);
@@ -128,6 +129,7 @@ TEST_F(DownloadPLS, FilesThatCannotBeReadSendNothing) {
 
 TEST_F(DownloadPLS, ASetOfAnotherKindOfBoardSendsNothing) {
     WriteSetFile("hdn", "3\r\n");
+    dialogs.ExpectBoxTitled(QStringLiteral("PLS Config Download"), MsgAnswer::Ok);
     const int before = RepliesSoFar();
     Download();
     EXPECT_EQ(RepliesSoFar(), before);

@@ -52,7 +52,8 @@ Drive ScriptedDrives::At(const QString& root) const {
     return drive;
 }
 
-WholeWindow::WholeWindow() : startDirectory_(QDir::currentPath()) {
+WholeWindow::WholeWindow(int boardModel)
+    : board_(boardModel), startDirectory_(QDir::currentPath()) {
     ForgetGlobals();
     const QDir root(root_.path());
     root.mkpath(QStringLiteral("app/support"));
