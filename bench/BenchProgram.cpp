@@ -19,7 +19,7 @@ constexpr double settleTime = 0.3; // seconds
 } // namespace
 
 BenchProgram::BenchProgram()
-    : application({clock, dialogs, busy, port, folder, drives, ports, tools, [] {}}) {
+    : application({clock, dialogs, busy, port, folder, drives, ports, tools, printer, [] {}}) {
     gHdnFile.clear();
     application.MainWindow().Views().frmSplash = nullptr; // waits for a user
     application.Start();

@@ -9,6 +9,7 @@
 #include "base/ProcessStart.h"
 #include "bench/BenchDialogs.h"
 #include "bench/CountingPort.h"
+#include "reports/views/PrinterSurface.h"
 #include <QTemporaryDir>
 
 class Grid;
@@ -44,6 +45,7 @@ public:
     SystemDrives drives;
     const SystemSerialPorts ports{folder};
     SystemProcessStart tools;
+    SystemPrinter printer;
     QTemporaryDir directory;
     ApplicationFolder folder{directory.path()};
     SerialMSComm serial{clock, folder};

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "base/Clock.h"
 #include "base/MSComm.h"
 #include <array>
 #include <cstdint>
 #include <numeric>
+#include <vector>
 
 namespace bench {
 
@@ -20,6 +22,15 @@ public:
         return std::accumulate(sent_.begin() + first, sent_.begin() + last + 1, qint64(0));
     }
 
+    /// From now on keeps the moments (monotonic seconds) at which this byte is sent. The clock must
+    /// outlive the port.
+    void NoteTimesOf(std::uint8_t byte, const Clock& clock) {
+        notedByte_ = byte;
+        clock_ = &clock;
+        times_.clear();
+    }
+    const std::vector<double>& NotedTimes() const { return times_; }
+
     int CommPort() const override { return port_.CommPort(); }
     void SetCommPort(int number) override { port_.SetCommPort(number); }
     QString Settings() const override { return port_.Settings(); }
@@ -33,7 +44,7 @@ public:
     void Output(const QByteArray& bytes) override {
         bytes_ += bytes.size();
         for (const char byte : bytes)
-            ++sent_[static_cast<std::uint8_t>(byte)];
+            Count(static_cast<std::uint8_t>(byte));
         port_.Output(bytes);
     }
     QByteArray Input() override {
@@ -44,9 +55,18 @@ public:
     bool WaitForInput(double deadline) override { return port_.WaitForInput(deadline); }
 
 private:
+    void Count(std::uint8_t byte) {
+        ++sent_[byte];
+        if (clock_ && byte == notedByte_)
+            times_.push_back(clock_->MonotonicSeconds());
+    }
+
     MSComm& port_;
     qint64 bytes_ = 0;
     std::array<qint64, 256> sent_{};
+    const Clock* clock_ = nullptr; // while moments are kept
+    std::uint8_t notedByte_ = 0;
+    std::vector<double> times_;
 };
 
 } // namespace bench

@@ -8,6 +8,7 @@
 #include "bench/StartRows.h"
 #include "bench/TableFileRows.h"
 #include "bench/TableRefreshRows.h"
+#include "bench/TrendRows.h"
 #include "bench/TypingRow.h"
 #include "bench/UploadRow.h"
 #include <cstdio>
@@ -39,6 +40,7 @@ std::vector<Measurement> Measurements() {
         {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
         {QStringLiteral("pls"), [board] { return bench::MeasurePLSTransfers(board); }},
         {QStringLiteral("table"), [board] { return bench::MeasureTableRefresh(board); }},
+        {QStringLiteral("trend"), [board] { return bench::MeasureTrend(board); }},
         {QStringLiteral("typing"), [board] { return std::vector{bench::MeasureTyping(board)}; }},
         {QStringLiteral("open"), bench::MeasureTableOpening},
         {QStringLiteral("offline"), [] { return std::vector{bench::MeasureOfflineTable()}; }},

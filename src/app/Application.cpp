@@ -1,10 +1,12 @@
 #include "app/Application.h"
 
 #include "app/PLSTransfer.h"
+#include "app/PLSViews.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
 #include "app/TimingViews.h"
 #include "app/TransferViews.h"
+#include "app/TrendingViews.h"
 #include "controls/ViewHelpers.h"
 #include "link/views/frmDownloadProg.h"
 #include "link/views/frmSetupComm.h"
@@ -47,8 +49,23 @@ void Application::RegisterViews() {
     statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
+    trending_ = std::make_unique<TrendingViews>(platform_, link_, loops_, transfers_->Jobs(),
+                                                transfers_->Runner(), window_);
+    pls_ = std::make_unique<PLSViews>(platform_, window_);
     timing_ =
         std::make_unique<TimingViews>(platform_, link_, loops_, transfers_->Runner(), window_);
+    plsTransfer_->JoinTimingView(timing_->View());
+    RegisterCopy();
+}
+
+// One entry and one key copy for two views: the table goes before the graph.
+void Application::RegisterCopy() {
+    window_.Commands().Handle(QStringLiteral("mnuEditCopy"), [this] {
+        if (window_.Children().IsVisible(QStringLiteral("frmStatusTable")))
+            statusTable_->CopyCells();
+        else
+            trending_->CopyGraph();
+    });
 }
 
 void Application::RegisterSetViews() {

@@ -8,12 +8,15 @@
 #include <memory>
 
 class PLSTransfer;
+class PLSViews;
 class ProcessStart;
+class ReportPrinter;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
 class TimingViews;
 class TransferViews;
+class TrendingViews;
 
 /// What the platform gives: the real services, or their doubles under test. All must outlive the
 /// application.
@@ -26,6 +29,7 @@ struct Platform {
     const Drives& drives;
     const SerialPorts& ports;
     ProcessStart& tools;
+    ReportPrinter& printer;
     std::function<void()> endProgram; ///< ends the event loop
 };
 
@@ -48,6 +52,7 @@ public:
 private:
     void RegisterViews();
     void RegisterSetViews();
+    void RegisterCopy();
 
     const Platform platform_;
     FileSystem files_;
@@ -59,5 +64,7 @@ private:
     std::unique_ptr<PLSTransfer> plsTransfer_;
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
+    std::unique_ptr<TrendingViews> trending_;
+    std::unique_ptr<PLSViews> pls_;
     std::unique_ptr<TimingViews> timing_;
 };

@@ -3,6 +3,10 @@
 #include "app/Application.h"
 #include "base/ApplicationFolder.h"
 #include "controls/grid/Grid.h"
+#include "jobs/WaitJobs.h"
+#include "reports/modReport.h"
+#include "reports/ReportPrinter.h"
+#include "session/Globals.h"
 #include "statustable/views/frmStatusTable.h"
 #include <QMenu>
 
@@ -10,11 +14,22 @@ namespace {
 QString ViewName() {
     return QStringLiteral("frmStatusTable");
 }
+
+class StatusReportGrid final : public ReportGrid {
+public:
+    explicit StatusReportGrid(const Grid& grid) : grid_(grid) {}
+    int Rows() const override { return grid_.Rows(); }
+    int Columns() const override { return grid_.Cols(); }
+    QString Text(int row, int column) const override { return grid_.TextMatrix(row, column); }
+
+private:
+    const Grid& grid_;
+};
 } // namespace
 
 StatusTableViews::StatusTableViews(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
                                    WaitJobs& jobs, JobRunner& runner, frmMDIMain& window)
-    : window_(window) {
+    : window_(window), printer_(platform.printer) {
     window_.Children().Register(ViewName(), [this, platform, &link, &loops, &jobs, &runner] {
         return MakeView(platform, link, loops, jobs, runner);
     });
@@ -22,6 +37,7 @@ StatusTableViews::StatusTableViews(const Platform& platform, RSComm& link, ViewL
             &StatusTableViews::FollowActiveView);
     window_.Views().mayClose = [this] { return MayClose(); };
     RegisterCommands();
+    RegisterPrinting(platform, jobs);
 }
 
 StatusTableViews::~StatusTableViews() {
@@ -55,7 +71,20 @@ void StatusTableViews::RegisterCommands() {
     handle("mnuStatusTableItem(7)", &frmStatusTable::NewStatusTable);
     handle("mnuStatusTableItem(9)", &frmStatusTable::SaveStatusTable);
     handle("mnuStatusTableItem(10)", &frmStatusTable::SaveStatusTableAs);
-    handle("mnuEditCopy", &frmStatusTable::StatusTableCopyClip);
+    handle("mnuFilePrintStatusTable", &frmStatusTable::PrintStatusTable);
+}
+
+void StatusTableViews::RegisterPrinting(const Platform& platform, WaitJobs& jobs) {
+    jobs.Register(WaitJob::PrintStatusTable, [this, &clock = platform.clock](JobProgress&) {
+        if (view_)
+            PrintReport(printer_, StatusReportGrid(view_->StatusGrid()), clock, gTableTitle,
+                        ReportKind::StatusTable);
+    });
+}
+
+void StatusTableViews::CopyCells() {
+    if (view_)
+        view_->StatusTableCopyClip();
 }
 
 void StatusTableViews::FollowActiveView() {
@@ -90,5 +119,6 @@ void StatusTableViews::PopUpTableMenu(const QPoint& place) {
     window_.Commands().Menu(QStringLiteral("mnuStatusTable"))->popup(place);
 }
 
-// Nothing is printed yet: the entry that would ask for the printer has no handler.
-void StatusTableViews::UsePrinter(const PrinterChoice&) {}
+void StatusTableViews::UsePrinter(const PrinterChoice& choice) {
+    printer_.UsePrinter(choice);
+}

@@ -7,6 +7,7 @@
 class frmMDIMain;
 class frmStatusTable;
 class JobRunner;
+class ReportPrinter;
 class RSComm;
 class ViewLoopRunner;
 class WaitJobs;
@@ -22,10 +23,14 @@ public:
                      JobRunner& runner, frmMDIMain& window);
     ~StatusTableViews() override;
 
+    /// Puts the cells that are selected in the table on the clipboard.
+    void CopyCells();
+
 private:
     QWidget* MakeView(const Platform& platform, RSComm& link, ViewLoopRunner& loops, WaitJobs& jobs,
                       JobRunner& runner);
     void RegisterCommands();
+    void RegisterPrinting(const Platform& platform, WaitJobs& jobs);
     void FollowActiveView();
     bool MayClose();
 
@@ -37,6 +42,7 @@ private:
     void UsePrinter(const PrinterChoice& choice) override;
 
     frmMDIMain& window_;
+    ReportPrinter& printer_;
     QPointer<frmStatusTable> view_;
     bool active_ = false;
 };

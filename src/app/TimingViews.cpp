@@ -43,26 +43,21 @@ void TimingViews::FollowActiveView() {
         view_->Activate();
 }
 
-bool TimingViews::TimingVisible() const {
-    return window_.Children().IsVisible(ViewName());
-}
-
-bool TimingViews::gFirstPassOnline() const {
-    return view_ && view_->gFirstPassOnline();
-}
-
-void TimingViews::DisplayPLSChannels() {
-    if (view_)
-        view_->DisplayPLSChannels();
-}
-
-void TimingViews::SetPLSUploadComplete() {
-    if (view_)
-        view_->SetPLSUploadComplete();
-}
-
-std::optional<qint16> TimingViews::SelectedBoard() const {
-    if (!view_ || !TimingVisible())
-        return std::nullopt;
-    return view_->SelectedBoard();
+TimingView TimingViews::View() {
+    TimingView view;
+    view.visible = [this] { return window_.Children().IsVisible(ViewName()); };
+    view.firstPassOnline = [this] { return view_ && view_->gFirstPassOnline(); };
+    view.displayChannels = [this] {
+        if (view_)
+            view_->DisplayPLSChannels();
+    };
+    view.uploadComplete = [this] {
+        if (view_)
+            view_->SetPLSUploadComplete();
+    };
+    view.board = [this] {
+        const bool shown = view_ && window_.Children().IsVisible(ViewName());
+        return shown ? std::optional(view_->SelectedBoard()) : std::nullopt;
+    };
+    return view;
 }

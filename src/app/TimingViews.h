@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include "app/PLSTransfer.h"
 #include <QObject>
 #include <QPointer>
 
@@ -20,14 +20,8 @@ public:
     TimingViews(const Platform& platform, RSComm& link, ViewLoopRunner& loops, JobRunner& runner,
                 frmMDIMain& window);
 
-    // What the transfers ask. A view that is not up answers with nothing.
-
-    bool TimingVisible() const;
-    bool gFirstPassOnline() const;
-    void DisplayPLSChannels();
-    void SetPLSUploadComplete();
-    /// Board selected in the view while it is up.
-    std::optional<qint16> SelectedBoard() const;
+    /// What the transfers ask of the view and tell it; one that was never shown says nothing.
+    TimingView View();
 
 private:
     QWidget* MakeView(const Platform& platform, RSComm& link, ViewLoopRunner& loops,

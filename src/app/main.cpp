@@ -6,6 +6,7 @@
 #include "base/ProcessStart.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
+#include "reports/views/PrinterSurface.h"
 #include <QApplication>
 #include <QStandardPaths>
 
@@ -33,8 +34,9 @@ int main(int argc, char** argv) {
     SerialMSComm port(clock, folder);
     const SystemSerialPorts ports(folder);
     SystemProcessStart tools;
-    Application application(
-        {clock, dialogs, busy, port, folder, drives, ports, tools, [] { QApplication::exit(); }});
+    SystemPrinter printer;
+    Application application({clock, dialogs, busy, port, folder, drives, ports, tools, printer,
+                             [] { QApplication::exit(); }});
     application.Start();
     return QApplication::exec();
 }

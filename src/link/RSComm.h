@@ -309,6 +309,7 @@ private:
     int operations_ = 0;
 
     int linkMode_ = LinkMode::None;
+    bool inDoubt_ = false; // what arrives next may answer an earlier byte
     int dataOwed_ = 0; // data bytes of a command that the board may still be waiting for
     bool writeFailed_ = false;
     bool portSettingsBad_ = false;

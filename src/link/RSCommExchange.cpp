@@ -13,7 +13,8 @@ constexpr double firstReplyTime = 1.0;  // seconds until the first time-out
 constexpr double resyncReplyTime = 2.0; // seconds after each resynchronising attention
 constexpr int timeOutsBeforeAlert = 3;  // 1 + 2 + 2 seconds on a dead line
 constexpr double handshakeTime = 2.0;   // seconds in which a mode must be entered
-constexpr double quietLineTime = 0.05;  // seconds in which a late acknowledge is still waited for
+constexpr double quietLineTime = 0.05;  // seconds without a byte that count as a quiet line
+constexpr double noisyLineTime = 1.0;   // seconds after which a line is given up as never quiet
 
 bool IsPLSMode(int mode) {
     return mode >= LinkMode::PLSChannel && mode <= LinkMode::PLSTable;
@@ -54,6 +55,8 @@ int RSComm::ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input) 
         commError_ = true;
         return noReply;
     }
+    if (inDoubt_)
+        LetLineFallQuiet();
     if (input == InputBuffer::Clear)
         port_->SetInBufferCount(0);
     port_->SetInputLen(1);
@@ -71,6 +74,7 @@ int RSComm::AwaitReply() {
     int timeOuts = 0;
     while (!InputArrives(deadline, display)) {
         linkMode_ = LinkMode::None;
+        inDoubt_ = true;
         commError_ = true;
         commErrorAlert_ = true;
         deadline = clock_.MonotonicSeconds() + resyncReplyTime;
@@ -133,10 +137,19 @@ void RSComm::WaitSeconds(double seconds) {
         clock_.Wait(std::min(deadline, display.Look(now)) - now);
 }
 
-// Lets the late reply that a time-out gave up arrive, so that the next exchange which clears the
-// input buffer throws it away. Without this all further replies come one byte behind.
+// Waits until nothing more arrives, and throws away what did: a reply that a time-out gave up, or
+// the second of a doubled one. Taken for the answer to the next byte it would leave all further
+// replies one byte behind, and an attention that meets a board in the middle of a write is stored
+// as data.
 void RSComm::LetLineFallQuiet() {
-    WaitSeconds(quietLineTime);
+    LongWait display(busy_, clock_);
+    const double end = clock_.MonotonicSeconds() + noisyLineTime;
+    double now = clock_.MonotonicSeconds();
+    while (now < end && InputArrives(now + quietLineTime, display)) {
+        port_->SetInBufferCount(0);
+        now = clock_.MonotonicSeconds();
+    }
+    inDoubt_ = false;
 }
 
 // Enters a link mode: attention and the mode byte, each to be acknowledged. When the mode byte
@@ -168,6 +181,7 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes) {
         linkMode_ = LinkMode::None;
         if (reply == noReply)
             return false;
+        inDoubt_ = inDoubt_ || reply != acknowledge;
     }
 }
 

@@ -23,6 +23,8 @@ constexpr double descriptionStep = 2.0; // leaves room for long text
 constexpr double footerRoom = 0.9;
 constexpr double footerMargin = 0.1;
 constexpr double footerFontSize = 10.0;
+constexpr double betweenColumns = 0.05;
+const QString ellipsis(u'\u2026');
 const QString heightSample = QStringLiteral("I");
 
 enum ReportFontNumber { Body = 1, HeadRow = 2, LastHeadRow = 3 };
@@ -49,6 +51,7 @@ private:
     void ReportFooter();
     void PrintRow(int row);
     QString CellText(int row, int column) const;
+    QString FittedIn(const QString& text, double width) const;
     void PrintCell(int column, const QString& text);
     double PositionOf(int column) const;
 
@@ -101,7 +104,19 @@ void Report::PrintCell(int column, const QString& text) {
     if (column == grid_.Columns() - 1)
         printer_.Print(text);
     else
-        printer_.PrintWithoutLineEnd(text);
+        printer_.PrintWithoutLineEnd(
+            FittedIn(text, PositionOf(column + 1) - PositionOf(column) - betweenColumns));
+}
+
+// Two texts on top of each other could be misread: one that is too long for its column ends with
+// an ellipsis.
+QString Report::FittedIn(const QString& text, double width) const {
+    if (printer_.TextWidth(text) <= width)
+        return text;
+    QString cut = text;
+    while (!cut.isEmpty() && printer_.TextWidth(cut + ellipsis) > width)
+        cut.chop(1);
+    return cut + ellipsis;
 }
 
 QString Report::CellText(int row, int column) const {

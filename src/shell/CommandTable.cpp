@@ -120,6 +120,8 @@ MenuTable TrendingPopup() {
                 {"mnuTrendingPopupSave", "S&ave Trend Sample"},
                 {"mnuTrendingPopupCopy", "&Copy      Ctrl+C"},
                 {"mnuTrendingPopupPrint", "&Print Trend Data"},
+                separator,
+                {"mnuTrendingPopupExport", "Export CSV"},
             }};
 }
 

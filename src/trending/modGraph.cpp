@@ -141,13 +141,15 @@ void modGraph::DrawValues(const std::vector<qint32>& samples, const ValueRange& 
     if (samples.size() < 2)
         return;
     xScale_ = static_cast<float>(plotWidth_) / static_cast<float>(steps_);
+    lowest_ = range.lowest;
     yScale_ =
         static_cast<float>(static_cast<double>(plotHeight_) / static_cast<double>(range.Extent()));
-    const auto yOf = [&](int i) {
-        return RoundToWhole(originY_ - double(samples[i] - range.lowest) * double(yScale_));
-    };
     for (int i = 0; i < steps_; ++i)
-        surface_->Line(XOf(i), yOf(i), XOf(i + 1), yOf(i + 1));
+        surface_->Line(XOf(i), YOf(samples[i]), XOf(i + 1), YOf(samples[i + 1]));
+}
+
+int modGraph::YOf(qint32 value) const {
+    return RoundToWhole(originY_ - double(value - lowest_) * double(yScale_));
 }
 
 int modGraph::XOf(int sample) const {

@@ -27,6 +27,8 @@ public:
     std::optional<int> SampleAt(double x) const;
     /// Where a sample stands, in twips.
     int XOf(int sample) const;
+    /// Height at which a value stands in the data drawn last, in twips.
+    int YOf(qint32 value) const;
 
     /// What the frame left: the plot's left bottom corner and its size.
     int OriginX() const { return originX_; }
@@ -49,7 +51,8 @@ private:
     void DrawValues(const std::vector<qint32>& samples, const ValueRange& range);
 
     DrawingSurface* surface_ = nullptr;
-    int steps_ = 0; // samples drawn last, less one
+    int steps_ = 0;     // samples drawn last, less one
+    qint64 lowest_ = 0; // of the values drawn last
     int originX_ = 0;
     int originY_ = 0;
     int plotWidth_ = 0;

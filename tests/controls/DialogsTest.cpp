@@ -6,12 +6,15 @@
 #include <gtest/gtest.h>
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -140,4 +143,32 @@ TEST(QtDialogs, ASaveAsksBeforeOverwritingOnlyWhenToldTo) {
         dialog.reject();
     });
     EXPECT_EQ(ErrorOf([&] { dialogs.ShowSave(request); }), ErrorNumber::DialogCancel);
+}
+
+TEST(QtDialogs, ThePrintDialogOffersAPdfFileWhetherOrNotThereIsAPrinter) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("report.pdf"));
+    WhenUp<QPrintDialog>([&](QPrintDialog& dialog) {
+        QComboBox* pdf = nullptr;
+        for (QComboBox* list : dialog.findChildren<QComboBox*>())
+            if (list->findText(QStringLiteral("Print to File (PDF)")) >= 0)
+                pdf = list;
+        ASSERT_NE(pdf, nullptr);
+        pdf->setCurrentIndex(pdf->findText(QStringLiteral("Print to File (PDF)")));
+        auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+        ASSERT_NE(file, nullptr);
+        file->setText(path);
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
+    QtDialogs dialogs;
+    const PrinterChoice choice = dialogs.ShowPrinter();
+    EXPECT_EQ(choice.outputFile, path);
+    EXPECT_TRUE(choice.printerName.isEmpty());
+    EXPECT_EQ(choice.copies, 1);
+}
+
+TEST(QtDialogs, CancelOfThePrintDialogRaisesTheDialogsError) {
+    WhenUp<QPrintDialog>([](QPrintDialog& dialog) { dialog.reject(); });
+    QtDialogs dialogs;
+    EXPECT_EQ(ErrorOf([&] { dialogs.ShowPrinter(); }), ErrorNumber::DialogCancel);
 }

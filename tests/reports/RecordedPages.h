@@ -1,7 +1,14 @@
 #pragma once
 
 #include "reports/FixedMetrics.h"
+#include <memory>
 #include <vector>
+
+/// What was printed: the pages on which something was drawn, and how often the document was ended.
+struct RecordedDocument {
+    std::vector<Drawing> pages;
+    int ended = 0;
+};
 
 /// A printer that keeps what each of its pages shows. Letter paper by default.
 class RecordedPages final : public PagedSurface {
@@ -9,10 +16,10 @@ public:
     explicit RecordedPages(double widthInches = 8.5, double heightInches = 11.0)
         : width_(widthInches * 1440.0), height_(heightInches * 1440.0) {}
 
-    /// The pages on which something was drawn.
-    const std::vector<Drawing>& Pages() const { return pages_; }
-    bool Ended() const { return ended_; }
-    void EndDoc() override { ended_ = true; }
+    const std::vector<Drawing>& Pages() const { return document_->pages; }
+    /// The document, for those who look at it when the printer is gone.
+    std::shared_ptr<const RecordedDocument> Document() const { return document_; }
+    void EndDoc() override { ++document_->ended; }
 
 protected:
     void BeginNextPage() override { pageBegun_ = false; }
@@ -35,15 +42,14 @@ protected:
 private:
     Drawing& Sheet() {
         if (!pageBegun_)
-            pages_.emplace_back();
+            document_->pages.emplace_back();
         pageBegun_ = true;
-        return pages_.back();
+        return document_->pages.back();
     }
 
     FixedMetrics metrics_;
     double width_;
     double height_;
-    std::vector<Drawing> pages_;
+    std::shared_ptr<RecordedDocument> document_ = std::make_shared<RecordedDocument>();
     bool pageBegun_ = false;
-    bool ended_ = false;
 };

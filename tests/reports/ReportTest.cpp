@@ -26,6 +26,16 @@ private:
     int columns_;
 };
 
+// A table of two columns with one row, whose texts are too long.
+class LongText final : public ReportGrid {
+public:
+    int Rows() const override { return 3; }
+    int Columns() const override { return 2; }
+    QString Text(int row, int) const override {
+        return row < 2 ? QStringLiteral("head") : QStringLiteral("abcdefghijklmnop");
+    }
+};
+
 class Report : public testing::Test {
 protected:
     void TearDown() override { gViewDescriptions = false; }
@@ -63,7 +73,7 @@ TEST_F(Report, ATableThatFitsOnePageGetsOneHeaderAndOneFooterWithPage1) {
     EXPECT_EQ(Count("Page 1"), 1);
     EXPECT_EQ(pages.Pages()[0].lines.size(), 2u);
     EXPECT_EQ(Count("r11c5"), 1);
-    EXPECT_FALSE(pages.Ended()); // that is up to the job
+    EXPECT_EQ(pages.Document()->ended, 0); // that is up to the job
 }
 
 TEST_F(Report, TheHeaderStandsCentredAboveALine) {
@@ -103,6 +113,15 @@ TEST_F(Report, WithDescriptionsShownTheAddressColumnStarts2InchesFromColumn0) {
     EXPECT_DOUBLE_EQ(Find("r2c1")->x, 2.5 * inch);
     EXPECT_DOUBLE_EQ(Find("r2c2")->x, 3.5 * inch);
     EXPECT_DOUBLE_EQ(Find("r0c1")->x, 2.5 * inch);
+}
+
+TEST_F(Report, ATextThatIsTooLongForItsColumnEndsWithAnEllipsis) {
+    RecordedPages sheet;
+    ReportStart(sheet, LongText(), clock, QStringLiteral("press"), ReportKind::StatusTable);
+    const std::vector<DrawnText>& texts = sheet.Pages().at(0).texts;
+    // 120 twips a letter and 0.95 inches of room: eleven letters fit.
+    EXPECT_EQ(texts.at(5).text, QStringLiteral("abcdefghij\u2026"));
+    EXPECT_EQ(texts.at(6).text, QStringLiteral("abcdefghijklmnop"));
 }
 
 TEST_F(Report, TheFooterShowsDateTimeAndPageBelowALine) {

@@ -68,7 +68,7 @@ const std::vector<Row> toolsRows = {
     {"mnuToolsSearch", "&Search", "Ctrl+F", Hidden},
     {"mnuToolsStatusTable", "Status &Table", "Ctrl+T", Enabled},
     {"mnuToolsOnlineMon", "&Monitor Program Online", "Ctrl+M", Hidden},
-    {"mnuToolsTrending", "T&rend Data", "Ctrl+R", Disabled},
+    {"mnuToolsTrending", "T&rend Data", "Ctrl+R", Enabled},
     {"mnuToolsPLSProgramming", "&PLS Programming", "Ctrl+L", Disabled},
 };
 const std::vector<Row> helpRows = {
@@ -77,10 +77,12 @@ const std::vector<Row> helpRows = {
     {"mnuHelpAbout", "&About Quentor", "", Disabled},
 };
 const std::vector<Row> trendingPopupRows = {
-    {"mnuTrendingPopupOpen", "&Open Trend Sample", "", Disabled},
-    {"mnuTrendingPopupSave", "S&ave Trend Sample", "", Disabled},
-    {"mnuTrendingPopupCopy", "&Copy      Ctrl+C", "", Disabled},
-    {"mnuTrendingPopupPrint", "&Print Trend Data", "", Disabled},
+    {"mnuTrendingPopupOpen", "&Open Trend Sample", "", Enabled},
+    {"mnuTrendingPopupSave", "S&ave Trend Sample", "", Enabled},
+    {"mnuTrendingPopupCopy", "&Copy      Ctrl+C", "", Enabled},
+    {"mnuTrendingPopupPrint", "&Print Trend Data", "", Enabled},
+    {"", "", "", Enabled},
+    {"mnuTrendingPopupExport", "Export CSV", "", Enabled},
 };
 // No set is selected at the start.
 const std::vector<Row> fileListPopupRows = {

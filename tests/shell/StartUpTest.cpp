@@ -65,8 +65,8 @@ TEST_F(StartUp, GlobalsStandOnceTheWindowIsUp) {
 }
 
 TEST_F(StartUp, TheTimerIsOffUntilTheBrowserIsUp) {
-    application_ = std::make_unique<Application>(
-        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [] {}});
+    application_ = std::make_unique<Application>(Platform{
+        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, printer_, [] {}});
     auto* timer = Find<QTimer>("tmrBackgroungUpdate");
     EXPECT_FALSE(timer->isActive());
     EXPECT_EQ(timer->interval(), 500);
@@ -75,8 +75,8 @@ TEST_F(StartUp, TheTimerIsOffUntilTheBrowserIsUp) {
 }
 
 TEST_F(StartUp, TheSplashComesLastOverARunningTimer) {
-    application_ = std::make_unique<Application>(
-        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [] {}});
+    application_ = std::make_unique<Application>(Platform{
+        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, printer_, [] {}});
     bool timerRan = false;
     bool browserUp = false;
     Window().Views().frmSplash = [&] {

@@ -46,6 +46,10 @@ void ScriptedDialogs::ExpectPrinter(const PrinterChoice& choice) {
     expectedPrinters_.push_back(choice);
 }
 
+void ScriptedDialogs::ExpectPrinterCancelled() {
+    expectedPrinters_.push_back(std::nullopt);
+}
+
 int ScriptedDialogs::MsgBox(const QString& text, int style, const QString& title) {
     boxes_.push_back({text, style, title});
     if (expectedBoxes_.empty()) {
@@ -107,7 +111,9 @@ PrinterChoice ScriptedDialogs::ShowPrinter() {
         ADD_FAILURE() << "unexpected print dialog";
         throw RunTimeError(ErrorNumber::DialogCancel);
     }
-    const PrinterChoice choice = expectedPrinters_.front();
+    const std::optional<PrinterChoice> choice = expectedPrinters_.front();
     expectedPrinters_.pop_front();
-    return choice;
+    if (!choice)
+        throw RunTimeError(ErrorNumber::DialogCancel);
+    return *choice;
 }

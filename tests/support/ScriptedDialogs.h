@@ -3,6 +3,7 @@
 #include "base/Dialogs.h"
 #include <deque>
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// One message box as it was shown.
@@ -31,6 +32,7 @@ public:
     void ExpectOpen(const QString& path);
     void ExpectSave(const QString& path);
     void ExpectPrinter(const PrinterChoice& choice);
+    void ExpectPrinterCancelled();
 
     /// All message boxes shown so far, in order.
     const std::vector<ShownBox>& Boxes() const { return boxes_; }
@@ -61,7 +63,7 @@ private:
     std::deque<ExpectedInput> expectedInputs_;
     std::deque<QString> expectedOpens_;
     std::deque<QString> expectedSaves_;
-    std::deque<PrinterChoice> expectedPrinters_;
+    std::deque<std::optional<PrinterChoice>> expectedPrinters_; // none is Cancel
     std::vector<ShownBox> boxes_;
     std::vector<FileDialogRequest> fileRequests_;
 };

@@ -82,7 +82,8 @@ void ChooseFile(const QString& path) {
     if (!dialog || !entry || !buttons)
         return;
     entry->setText(path);
-    Click(buttons->button(QDialogButtonBox::Open));
+    const bool saves = dialog->acceptMode() == QFileDialog::AcceptSave;
+    Click(buttons->button(saves ? QDialogButtonBox::Save : QDialogButtonBox::Open));
 }
 
 void ClickCell(Grid& grid, int row, int col) {

@@ -49,7 +49,7 @@ void PressKey(frmMDIMain& window, Qt::Key key);
 bool ClickRow(QAbstractItemView& list, const QString& text);
 /// Puts `text` in place of what stands in a control of the modal window, and presses Return.
 void TypeOver(const QString& name, const QString& text);
-/// Types a path into the file dialog that is up and presses its Open button.
+/// Types a path into the file dialog that is up and presses its Open or Save button.
 void ChooseFile(const QString& path);
 
 /// Clicks a cell of a grid.

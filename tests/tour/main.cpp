@@ -6,6 +6,7 @@
 #include "base/ProcessStart.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
+#include "reports/views/PrinterSurface.h"
 #include "tour/BoardProcess.h"
 #include "tour/DataTransferTour.h"
 #include "tour/MainJobTour.h"
@@ -14,6 +15,7 @@
 #include "tour/TargetBoardTour.h"
 #include "tour/TourGuide.h"
 #include "tour/TourSetting.h"
+#include "tour/TrendTour.h"
 #include <cstdio>
 #include <QApplication>
 #include <QPalette>
@@ -43,13 +45,15 @@ int RunTour(const QString& output) {
     SerialMSComm port(clock, folder);
     const SystemSerialPorts ports(folder);
     SystemProcessStart tools;
-    Application application(
-        {clock, dialogs, busy, port, folder, drives, ports, tools, [] { QApplication::exit(); }});
+    SystemPrinter printer;
+    Application application({clock, dialogs, busy, port, folder, drives, ports, tools, printer,
+                             [] { QApplication::exit(); }});
     application.Start();
     TourGuide guide(application.MainWindow(), output);
     AddMainJob(guide, application.MainWindow(), board);
     AddDataTransfers(guide, application.MainWindow(), board, setting);
     AddStatusTable(guide, application.MainWindow(), board, setting);
+    AddTrending(guide, application.MainWindow(), board, setting);
     AddTargetBoard(guide, application.MainWindow(), board);
     AddProgramSets(guide, application.MainWindow(), board, setting);
     guide.Start();

@@ -1,7 +1,9 @@
 #include "reports/views/PrinterSurface.h"
 
 #include "base/RunTimeError.h"
+#include "base/TextFile.h"
 #include <QColor>
+#include <QFileInfo>
 #include <QPageLayout>
 #include <QPrinterInfo>
 
@@ -9,19 +11,32 @@ namespace {
 constexpr double twipsPerInch = 1440.0;
 constexpr double twipsPerPoint = 20.0;
 constexpr double pdfMargin = 0.25; // inches; what office printers cannot reach
+
+// "press-2.pdf" beside "press.pdf", or the first higher number that is free.
+QString NameBeside(const QString& path) {
+    const QFileInfo file(path);
+    const QString stem = file.path() + u'/' + file.completeBaseName() + u'-';
+    const QString suffix = file.suffix().isEmpty() ? QString() : u'.' + file.suffix();
+    int number = 2;
+    while (QFileInfo::exists(stem + QString::number(number) + suffix))
+        ++number;
+    return stem + QString::number(number) + suffix;
+}
 } // namespace
 
 PrinterSurface::PrinterSurface(const PrinterChoice& choice, PaperOrientation orientation)
-    : printer_(QPrinter::HighResolution) {
+    : pdf_(choice.outputFile), printer_(QPrinter::HighResolution) {
     if (!choice.printerName.isEmpty())
         printer_.setPrinterName(choice.printerName);
     printer_.setCopyCount(choice.copies);
     printer_.setPageOrientation(orientation == PaperOrientation::Landscape ? QPageLayout::Landscape
                                                                            : QPageLayout::Portrait);
-    if (choice.outputFile.isEmpty())
+    if (pdf_.isEmpty())
         return;
+    if (!pdfInWork_.open())
+        throw RunTimeError(ErrorNumber::PathFileAccess);
     printer_.setOutputFormat(QPrinter::PdfFormat);
-    printer_.setOutputFileName(choice.outputFile);
+    printer_.setOutputFileName(pdfInWork_.fileName());
     printer_.setPageMargins(QMarginsF(pdfMargin, pdfMargin, pdfMargin, pdfMargin),
                             QPageLayout::Inch);
 }
@@ -71,6 +86,22 @@ void PrinterSurface::DrawTextAt(double x, double y, const QString& text) {
 void PrinterSurface::EndDoc() {
     if (painter_.isActive() && (!painter_.end() || printer_.printerState() == QPrinter::Error))
         throw RunTimeError(ErrorNumber::DeviceIOError);
+    if (!pdf_.isEmpty())
+        PutPdfInPlace();
+}
+
+// A full disk leaves the file in work without its end.
+void PrinterSurface::PutPdfInPlace() {
+    pdfInWork_.seek(0);
+    const QByteArray content = pdfInWork_.readAll();
+    if (!content.trimmed().endsWith("%%EOF"))
+        throw RunTimeError(ErrorNumber::DiskFull);
+    WriteWholeFile(pdf_, content);
+}
+
+void SystemPrinter::UsePrinter(const PrinterChoice& choice) {
+    choice_ = choice;
+    pdfTaken_ = false;
 }
 
 QString SystemPrinter::DeviceName() const {
@@ -80,5 +111,10 @@ QString SystemPrinter::DeviceName() const {
 }
 
 std::unique_ptr<PagedSurface> SystemPrinter::OpenDocument(PaperOrientation orientation) {
-    return std::make_unique<PrinterSurface>(choice_, orientation);
+    PrinterChoice choice = choice_;
+    if (pdfTaken_)
+        choice.outputFile = NameBeside(choice_.outputFile);
+    auto document = std::make_unique<PrinterSurface>(choice, orientation);
+    pdfTaken_ = !choice_.outputFile.isEmpty();
+    return document;
 }

@@ -5,9 +5,10 @@
 #include "reports/views/SurfacePainting.h"
 #include <QPainter>
 #include <QPrinter>
+#include <QTemporaryFile>
 
 /// A document on a printer or in a PDF file, black on white. The sheet is the part of the paper
-/// that can be printed on.
+/// that can be printed on. A PDF file comes into being whole with EndDoc, or not at all.
 class PrinterSurface final : public PagedSurface {
 public:
     PrinterSurface(const PrinterChoice& choice, PaperOrientation orientation);
@@ -27,20 +28,26 @@ protected:
 
 private:
     QPainter& Painter();
+    void PutPdfInPlace();
 
+    const QString pdf_; // path of the PDF file, empty for a printer
+    QTemporaryFile pdfInWork_;
     QtTextMetrics metrics_;
     QPrinter printer_;
     QPainter painter_;
     bool pageWanted_ = false;
 };
 
-/// The printers of the system: the default one until the user chose another.
+/// The printers of the system: the default one until the user chose another. Of several documents
+/// that go to one PDF file, the first gets its name and each further one a name of its own beside
+/// it ("press-2.pdf"), so that none replaces another.
 class SystemPrinter final : public ReportPrinter {
 public:
     QString DeviceName() const override;
-    void UsePrinter(const PrinterChoice& choice) override { choice_ = choice; }
+    void UsePrinter(const PrinterChoice& choice) override;
     std::unique_ptr<PagedSurface> OpenDocument(PaperOrientation orientation) override;
 
 private:
     PrinterChoice choice_;
+    bool pdfTaken_ = false; // a document went to the file that was chosen
 };

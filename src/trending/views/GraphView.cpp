@@ -57,8 +57,11 @@ void GraphView::PaintCrosshair(QPainter& painter) const {
     const double top = graph_.OriginY() - graph_.PlotHeight();
     const int black = PaletteColour::Black;
     const auto colourOf = [this](int colour) { return ScreenColour(colour, palette()); };
-    PaintLine(painter, {x, double(graph_.OriginY()), x, top, {black, 1, DrawStyle::Solid}},
-              colourOf);
+    const double y = graph_.YOf(samples_[static_cast<std::size_t>(*pointed_)]);
+    const double right = graph_.OriginX() + graph_.PlotWidth();
+    const SurfacePen hair{black, 1, DrawStyle::Dotted};
+    PaintLine(painter, {x, double(graph_.OriginY()), x, top, hair}, colourOf);
+    PaintLine(painter, {double(graph_.OriginX()), y, right, y, hair}, colourOf);
     const SurfaceFont font{picture_.Font().name, picture_.Font().size, true, false, false};
     const QString text = CrosshairText();
     const double textWidth = metrics_.Width(text, font);

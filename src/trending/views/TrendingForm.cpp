@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 
 namespace {
 template <class Control>
@@ -37,13 +38,16 @@ QLineEdit* MakeEntry(QWidget& view) {
     entry->setFixedWidth(entry->fontMetrics().horizontalAdvance(QStringLiteral("0000000")));
     return entry;
 }
+// A number, the seconds of a day and a value of 32 bits with its sign, with room around them.
+constexpr int charactersOfRow = 28;
 } // namespace
 
 TrendingForm::TrendingForm(QWidget& view, const modGraph& graph)
     : cboTargetBoard(MakeList(view, "cboTargetBoard", TableBoardNames())),
       cboAddress(MakeList(view, "cboAddress", {TrendVariable::none})),
-      optChangeOfState(Make<QRadioButton>(view, "optOptions0", QStringLiteral("Change of State"))),
-      optTimeInterval(Make<QRadioButton>(view, "optOptions1", QStringLiteral("Time Interval"))),
+      optChangeOfState(
+          Make<QRadioButton>(view, "optOptions(0)", QStringLiteral("Change of State"))),
+      optTimeInterval(Make<QRadioButton>(view, "optOptions(1)", QStringLiteral("Time Interval"))),
       cboOptions(MakeList(view, "cboOptions", TrendAcquisition::IntervalNames())),
       chkAcquire(Make<QCheckBox>(view, "chkAcquire", QStringLiteral("&Acquire Samples"))),
       cmdClear(Make<QPushButton>(view, "cmdClear", QStringLiteral("&Clear Samples"))),
@@ -62,6 +66,9 @@ TrendingForm::TrendingForm(QWidget& view, const modGraph& graph)
     cboAddress->setAccessibleName(QStringLiteral("Variable"));
     cboOptions->setAccessibleName(QStringLiteral("Interval"));
     fgTrend->setAccessibleName(QStringLiteral("Trend samples"));
+    const int digit = fgTrend->fontMetrics().horizontalAdvance(u'0');
+    fgTrend->setMinimumWidth(charactersOfRow * digit +
+                             fgTrend->verticalScrollBar()->sizeHint().width());
     txtSamples->setAccessibleName(QStringLiteral("Samples to graph"));
     optChangeOfState->setChecked(true);
     cboOptions->setEnabled(false);

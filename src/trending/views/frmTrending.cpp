@@ -14,6 +14,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
+
+namespace {
+// Every sample moves all rows: painting them more often would take the link's time, and nobody
+// reads faster. Milliseconds.
+constexpr int gatheringTime = 100;
+} // namespace
 
 TrendingHost::~TrendingHost() = default;
 
@@ -61,6 +68,8 @@ void frmTrending::Connect() {
     });
     connect(form_.cmdClear, &QPushButton::clicked, this, [this] { acquisition_.Clear(); });
     connect(form_.cmdReset, &QPushButton::clicked, this, [this] { acquisition_.ResetCounter(); });
+    new QShortcut(QKeySequence(QKeySequence::Copy), this, this, &frmTrending::CopyGraph,
+                  Qt::WidgetWithChildrenShortcut);
     connect(form_.fgTrend, &Grid::Scrolled, this, &frmTrending::Renumber);
     connect(form_.fgTrend, &Grid::Resized, this, &frmTrending::SizeGrid);
     for (QWidget* place :
@@ -185,10 +194,11 @@ void frmTrending::GiveUpAddress() {
 // Samples come faster than they can be read; showing each would cost the pace of the link.
 void frmTrending::SampleAdded(bool) {
     if (!showSamples_.isActive())
-        showSamples_.start(GridModel::repaintInterval);
+        showSamples_.start(gatheringTime);
 }
 
 void frmTrending::ShowSamples() {
+    form_.lblSamples->setText(acquisition_.CounterText());
     const TrendSamples& samples = acquisition_.Samples();
     form_.fgTrend->SetRows(samples.Rows());
     const int changed = std::min(samples.Rows() - 1, TrendSamples::removedRow);
@@ -215,13 +225,15 @@ void frmTrending::Renumber() {
         form_.fgTrend->SetTextMatrix(row, 0, acquisition_.Samples().Text(row, 0));
 }
 
+// While samples are gathered, the counter is shown with them.
 void frmTrending::CounterChanged() {
-    form_.lblSamples->setText(acquisition_.CounterText());
+    if (!showSamples_.isActive())
+        form_.lblSamples->setText(acquisition_.CounterText());
 }
 
 void frmTrending::SizeGrid() {
     const int digit = form_.fgTrend->fontMetrics().horizontalAdvance(u'0');
-    form_.fgTrend->ShareWidth({1, 4, 4}, {6 * digit, 10 * digit, 11 * digit});
+    form_.fgTrend->ShareWidth({1, 4, 4}, {5 * digit, 10 * digit, 12 * digit});
     Renumber();
 }
 

@@ -41,7 +41,7 @@ frmTrendingPrint::frmTrendingPrint(Dialogs& dialogs, ReportPrinter& printer, Job
     };
     command("cmdOk", QStringLiteral("OK"), &frmTrendingPrint::ClickOk);
     command("cmdCancel", QStringLiteral("Cancel"), &QDialog::reject);
-    command("cmdSetup", QStringLiteral("&Setup..."), &frmTrendingPrint::ClickSetup);
+    command("cmdSetup", QStringLiteral("&Setup..."), &frmTrendingPrint::ChoosePrinter);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(frame);
     layout->addWidget(lblPrinter_);
@@ -59,6 +59,8 @@ void frmTrendingPrint::ShowPrinterName() {
 }
 
 void frmTrendingPrint::ClickOk() {
+    if (printer_.DeviceName().isEmpty() && !ChoosePrinter())
+        return;
     try {
         if (chkTrendData_->isChecked())
             jobs_.RunWaitJob(WaitJob::PrintTrendData);
@@ -70,11 +72,14 @@ void frmTrendingPrint::ClickOk() {
     accept();
 }
 
-void frmTrendingPrint::ClickSetup() {
+bool frmTrendingPrint::ChoosePrinter() {
+    bool chosen = false;
     try {
         printer_.UsePrinter(dialogs_.ShowPrinter());
+        chosen = true;
     } catch (const RunTimeError& error) {
         ShowErrorBox(dialogs_, error, Title(), MsgStyle::Critical);
     }
     ShowPrinterName();
+    return chosen;
 }

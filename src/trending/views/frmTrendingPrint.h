@@ -23,7 +23,8 @@ public:
 private:
     void ShowPrinterName();
     void ClickOk();
-    void ClickSetup();
+    /// Asks for the printer; false if the user gave it up.
+    bool ChoosePrinter();
 
     Dialogs& dialogs_;
     ReportPrinter& printer_;

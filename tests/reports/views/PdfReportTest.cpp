@@ -7,6 +7,7 @@
 #include "support/PrintText.h"
 #include "support/VirtualClock.h"
 #include <gtest/gtest.h>
+#include <QFile>
 #include <QTemporaryDir>
 
 namespace {
@@ -91,7 +92,30 @@ TEST_F(PdfReport, ATableOf32000RowsLosesNoRowAtItsPageBreaks) {
 
 TEST_F(PdfReport, AFileThatCannotBeWrittenRaisesAnError) {
     printer.UsePrinter({QString(), folder.filePath(QStringLiteral("none/report.pdf")), 1});
-    ExpectError(ErrorNumber::DeviceUnavailable, [&] {
+    ExpectError(ErrorNumber::PathNotFound, [&] {
         PrintReport(printer, NamedCells(5), clock, QStringLiteral("press"), ReportKind::Trend);
     });
+}
+
+TEST_F(PdfReport, ADocumentThatIsNotEndedLeavesTheOldFileAlone) {
+    QFile old(Path());
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("the report of before") > 0);
+    old.close();
+    printer.UsePrinter({QString(), Path(), 1});
+    {
+        const auto document = printer.OpenDocument(PaperOrientation::Portrait);
+        document->Print(QStringLiteral("half a page"));
+    }
+    ASSERT_TRUE(old.open(QIODevice::ReadOnly));
+    EXPECT_EQ(old.readAll(), QByteArray("the report of before"));
+}
+
+TEST_F(PdfReport, FurtherDocumentsStandBesideTheFirst) {
+    const std::size_t pages = Print(200).size();
+    ASSERT_GT(pages, 1u);
+    for (const char* beside : {"report-2.pdf", "report-3.pdf"}) {
+        PrintReport(printer, NamedCells(5), clock, QStringLiteral("press"), ReportKind::Trend);
+        EXPECT_EQ(ReadPdf(folder.filePath(QLatin1String(beside))).size(), 1u) << beside;
+    }
+    EXPECT_EQ(ReadPdf(Path()).size(), pages);
 }

@@ -76,7 +76,7 @@ WholeWindow::~WholeWindow() {
 
 void WholeWindow::Start() {
     application_ = std::make_unique<Application>(Platform{
-        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [this] { ++ended_; }});
+        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, printer_, [this] { ++ended_; }});
     application_->Start();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
 }

@@ -5,6 +5,7 @@
 #include "base/Drives.h"
 #include "board/Line.h"
 #include "board/SimulatedBoard.h"
+#include "reports/views/PrinterSurface.h"
 #include "support/gui/WatchedPort.h"
 #include "support/RecordedStarts.h"
 #include "support/ScriptedDialogs.h"
@@ -92,6 +93,7 @@ protected:
     ScriptedDrives drives_;
     ScriptedSerialPorts ports_;
     RecordedStarts tools_;
+    SystemPrinter printer_; // a test chooses a PDF file through dialogs_
     std::unique_ptr<ApplicationFolder> folder_;
     std::unique_ptr<Application> application_;
     int ended_ = 0; ///< how often the program was ended

@@ -67,7 +67,10 @@ protected:
         Find<QCheckBox>("chkAcquire").setChecked(true);
     }
     void Until(const std::function<bool()>& condition) {
-        EXPECT_TRUE(QTest::qWaitFor(condition, 60000));
+        constexpr int mostTurns = 10'000'000;
+        for (int turn = 0; turn < mostTurns && !condition(); ++turn)
+            QCoreApplication::processEvents();
+        EXPECT_TRUE(condition());
     }
     QString Path(const char* name) const { return files.filePath(QString::fromLatin1(name)); }
 
@@ -129,7 +132,7 @@ TEST_F(TrendingView, EscapeGivesTheTypedTextUp) {
 
 TEST_F(TrendingView, SamplesOfTheBoardStandInTheGridAndTheCounter) {
     TypeAddress(QStringLiteral("B40"));
-    Find<QRadioButton>("optOptions1").setChecked(true);
+    Find<QRadioButton>("optOptions(1)").setChecked(true);
     EXPECT_TRUE(Find<QComboBox>("cboOptions").isEnabled());
     GoOnlineAndAcquire();
     Until([&] { return view.Acquisition().Counter() >= 300; });
@@ -137,7 +140,7 @@ TEST_F(TrendingView, SamplesOfTheBoardStandInTheGridAndTheCounter) {
     Until([&] { return Samples().Rows() == 258; });
     EXPECT_EQ(Samples().TextMatrix(1, 2).toStdString(), "40");
     EXPECT_EQ(Samples().TextMatrix(1, 0).toStdString(), "1");
-    EXPECT_EQ(Find<QLabel>("lblSamples").text(), view.Acquisition().CounterText());
+    Until([&] { return Find<QLabel>("lblSamples").text() == view.Acquisition().CounterText(); });
 }
 
 TEST_F(TrendingView, SavedAndOpenedAgainItShowsTheSameGridAndTheCounterItsRows) {
@@ -229,6 +232,31 @@ TEST_F(TrendingView, ThePrintDialogRunsTheReportAndPrintsTheGraph) {
     QFile pdf(Path("graph.pdf"));
     ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
     EXPECT_EQ(pdf.read(5), QByteArray("%PDF-"));
+}
+
+TEST_F(TrendingView, ACancelledPrinterDialogChangesNothing) {
+    printer.UsePrinter({QString(), Path("graph.pdf"), 1});
+    frmTrendingPrint dialog(dialogs, printer, jobs);
+    dialogs.ExpectPrinterCancelled();
+    dialog.findChild<QPushButton*>("cmdSetup")->click();
+    EXPECT_EQ(dialog.findChild<QLabel*>("lblPrinter")->text(), Path("graph.pdf"));
+    EXPECT_TRUE(dialogs.Boxes().empty());
+}
+
+TEST_F(TrendingView, WithoutAPrinterOkAsksForOneAndStaysUpOnCancel) {
+    if (!printer.DeviceName().isEmpty())
+        GTEST_SKIP() << "this computer has a printer";
+    frmTrendingPrint dialog(dialogs, printer, jobs);
+    dialog.show();
+    dialog.findChild<QCheckBox*>("chkTrendData")->setChecked(true);
+    dialogs.ExpectPrinterCancelled();
+    dialog.findChild<QPushButton*>("cmdOk")->click();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(jobs.ran.empty());
+    dialogs.ExpectPrinter({QString(), Path("asked.pdf"), 1});
+    dialog.findChild<QPushButton*>("cmdOk")->click();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(jobs.ran, std::vector<qint16>{WaitJob::PrintTrendData});
 }
 
 TEST_F(TrendingView, TheSetupShowsThePrinterThatWasChosen) {

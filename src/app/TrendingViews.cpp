@@ -1,0 +1,72 @@
+#include "app/TrendingViews.h"
+
+#include "app/Application.h"
+#include <QMenu>
+
+namespace {
+QString ViewName() {
+    return QStringLiteral("frmTrending");
+}
+} // namespace
+
+TrendingViews::TrendingViews(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
+                             WaitJobs& jobs, JobRunner& runner, frmMDIMain& window)
+    : window_(window) {
+    window_.Children().Register(ViewName(), [this, platform, &link, &loops, &jobs, &runner] {
+        return MakeView(platform, link, loops, jobs, runner);
+    });
+    connect(&window_.Children(), &MdiChildren::ActiveChanged, this,
+            &TrendingViews::FollowActiveView);
+    RegisterCommands();
+}
+
+QWidget* TrendingViews::MakeView(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
+                                 WaitJobs& jobs, JobRunner& runner) {
+    view_ = new frmTrending(
+        {link, platform.clock, platform.dialogs, loops, runner, platform.printer, *this});
+    view_->RegisterJobs(jobs);
+    return view_;
+}
+
+void TrendingViews::RegisterCommands() {
+    CommandSurface& commands = window_.Commands();
+    commands.Handle(QStringLiteral("mnuToolsTrending"),
+                    [this] { window_.Children().Show(ViewName()); });
+    const auto handle = [&](const char* entry, void (frmTrending::*operation)()) {
+        commands.Handle(QLatin1String(entry), [this, operation] {
+            if (view_)
+                (view_->*operation)();
+        });
+    };
+    handle("mnuFilePrintTrendData", &frmTrending::PrintTrendData);
+    handle("mnuTrendingPopupOpen", &frmTrending::OpenTrendData);
+    handle("mnuTrendingPopupSave", &frmTrending::SaveTendData);
+    handle("mnuTrendingPopupCopy", &frmTrending::CopyGraph);
+    handle("mnuTrendingPopupPrint", &frmTrending::PrintTrendData);
+    handle("mnuTrendingPopupExport", &frmTrending::ExportCsv);
+}
+
+void TrendingViews::CopyGraph() {
+    if (view_ && window_.Children().IsVisible(ViewName()))
+        view_->CopyGraph();
+}
+
+void TrendingViews::FollowActiveView() {
+    const bool active = window_.Children().ActiveName() == ViewName();
+    if (!view_ || active == active_)
+        return;
+    active_ = active;
+    if (active)
+        view_->Activate();
+    else
+        view_->Deactivate();
+}
+
+// Which entries show follows from the view that is active.
+void TrendingViews::ShowTrendCommands(bool) {
+    window_.RefreshCommandState();
+}
+
+void TrendingViews::PopUpTrendMenu(const QPoint& place) {
+    window_.Commands().Menu(QStringLiteral("mnuTrendingPopup"))->popup(place);
+}
