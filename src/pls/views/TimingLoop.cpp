@@ -109,8 +109,7 @@ void TimingLoop::EnterOffline() {
     screen_.ShowEnablement();
     screen_.ClearPanels();
     config_.ShowOffline();
-    for (int i = 0; i < timingEntryCount; ++i)
-        screen_.ShowTimingText(i, QStringLiteral("-"));
+    screen_.ClearTimingTexts();
     state_.gPLSUploadComplete = false;
     screen_.ShowCycle();
 }

@@ -183,6 +183,11 @@ void TimingScreen::ShowTimingText(int index, const QString& text) {
         box->setText(text);
 }
 
+void TimingScreen::ClearTimingTexts() {
+    for (int i = 0; i < timingEntryCount; ++i)
+        ShowTimingText(i, QStringLiteral("-"));
+}
+
 void TimingScreen::SetPositionMax(int max) {
     for (int i = 0; i < timingEntryCount; ++i) {
         if (SetpointEntry(i).isPosition)

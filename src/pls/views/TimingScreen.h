@@ -36,6 +36,8 @@ public:
     /// Its ON and OFF and the limit of the setpoint entry alone.
     void ShowEnds(const ShownSetpoint& shown);
     void ShowTimingText(int index, const QString& text);
+    /// All setpoint entries show "-": there is no board.
+    void ClearTimingTexts();
     /// Upper end of the offset, ON, OFF and START entries.
     void SetPositionMax(int max);
     /// Upper end of the channel entry, an octal name.

@@ -107,6 +107,8 @@ void frmTiming::Activate() {
     state_.running = true;
     if (!state_.busy && !seams_.link.OperationRuns())
         DisplayPLSChannels();
+    if (!seams_.link.OnlineMode())
+        screen_.ClearTimingTexts();
     seams_.loops.Activate(loop_);
 }
 
