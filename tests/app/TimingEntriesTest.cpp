@@ -28,6 +28,7 @@ protected:
         ClickSet("CAMS.hdn");
     }
     frmTiming& View() { return *Find<frmTiming>("frmTiming"); }
+    QComboBox& Boards() { return *View().findChild<QComboBox*>("cboTargetBoard"); }
     void ShowView() { Entry("mnuToolsPLSProgramming")->trigger(); }
     void Until(const std::function<bool()>& test) {
         QElapsedTimer passed;
@@ -51,7 +52,8 @@ TEST_F(TimingEntries, TheCommandShowsTheViewForTheSelectedSet) {
     ShowView();
     EXPECT_TRUE(Window().Children().IsVisible("frmTiming"));
     EXPECT_EQ(Window().ActiveChildName(), "frmTiming");
-    EXPECT_EQ(Find<QComboBox>("cboTargetBoard")->isEnabled(), true);
+    EXPECT_EQ(Boards().currentText(), "K2041");
+    EXPECT_TRUE(Boards().isEnabled());
     EXPECT_EQ(View().SelectedBoard(), k2041);
     EXPECT_FALSE(View().gFirstPassOnline());
 }
@@ -101,4 +103,23 @@ TEST_F(TimingEntries, TheTickReadsTheOffsetWhileItIsActive) {
     Tick();
     EXPECT_TRUE(Link().OnlineMode());
     EXPECT_FALSE(Link().CommError());
+}
+
+TEST_F(TimingEntries, AnUploadShowsWhatTheBoardHoldsAndSavesIt) {
+    ShowView();
+    GoOnline();
+    ASSERT_TRUE(Link().SingleSetpoint(0, 10, 20, false));
+    dialogs_.ExpectBoxTitled("PLS Upload [CAMS]", MsgAnswer::Yes);
+    Entry("mnuFileListPopupUploadFromPLS")->trigger();
+    EXPECT_EQ(View().ChannelGrid().TextMatrix(1, 1), "10");
+    EXPECT_TRUE(Content(SetPath("CAMS.CHL")).contains("|010020\r\n"));
+}
+
+TEST_F(TimingEntries, TheUploadTakesTheBoardChosenInTheView) {
+    ShowView();
+    Boards().setCurrentIndex(5); // an R6500; its scale is up to 4096
+    GoOnline();
+    dialogs_.ExpectBoxTitled("PLS Upload [CAMS]", MsgAnswer::Yes);
+    Entry("mnuFileListPopupUploadFromPLS")->trigger();
+    EXPECT_TRUE(Content(SetPath("CAMS.CHL")).startsWith(":0360\r\n"));
 }
