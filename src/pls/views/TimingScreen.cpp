@@ -115,12 +115,17 @@ void TimingScreen::ShowControls() {
     }
 }
 
+// What goes away goes first: both layouts together would make the window grow.
 void TimingScreen::ShowFrames() {
-    for (int frame = 0; frame < static_cast<int>(form_.fraTmg.size()); ++frame) {
-        QGroupBox& box = *form_.fraTmg[static_cast<std::size_t>(frame)];
-        box.setVisible(state_.enablement.FrameVisible(frame));
-        Enable(box, state_.enablement.IsEnabled(Family::fraTmg, frame) && !IsBlocked(frame));
+    for (const bool shown : {false, true}) {
+        for (int frame = 0; frame < static_cast<int>(form_.fraTmg.size()); ++frame) {
+            if (state_.enablement.FrameVisible(frame) == shown)
+                form_.fraTmg[static_cast<std::size_t>(frame)]->setVisible(shown);
+        }
     }
+    for (int frame = 0; frame < static_cast<int>(form_.fraTmg.size()); ++frame)
+        Enable(*form_.fraTmg[static_cast<std::size_t>(frame)],
+               state_.enablement.IsEnabled(Family::fraTmg, frame) && !IsBlocked(frame));
 }
 
 void TimingScreen::DisableOffsetControls() {
