@@ -4,6 +4,7 @@
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
 #include "bench/PLSTransferBench.h"
+#include "bench/ResultsRow.h"
 #include "bench/Row.h"
 #include "bench/StartRows.h"
 #include "bench/TableFileRows.h"
@@ -47,6 +48,7 @@ std::vector<Measurement> Measurements() {
         {QStringLiteral("open"), bench::MeasureTableOpening},
         {QStringLiteral("offline"), [] { return std::vector{bench::MeasureOfflineTable()}; }},
         {QStringLiteral("browser"), [] { return std::vector{bench::MeasureBrowser()}; }},
+        {QStringLiteral("results"), [] { return std::vector{bench::MeasureResults()}; }},
         {QStringLiteral("start"),
          [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
 }

@@ -1,7 +1,9 @@
 #include "app/Application.h"
 
+#include "app/HelpViews.h"
 #include "app/PLSTransfer.h"
 #include "app/PLSViews.h"
+#include "app/ResultViews.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
 #include "app/TimingViews.h"
@@ -55,6 +57,8 @@ void Application::RegisterViews() {
     timing_ =
         std::make_unique<TimingViews>(platform_, link_, loops_, transfers_->Runner(), window_);
     plsTransfer_->JoinTimingView(timing_->View());
+    results_ = std::make_unique<ResultViews>(platform_, window_);
+    help_ = std::make_unique<HelpViews>(platform_, files_, window_);
     RegisterCopy();
 }
 

@@ -7,10 +7,12 @@
 #include "shell/frmMDIMain.h"
 #include <memory>
 
+class HelpViews;
 class PLSTransfer;
 class PLSViews;
 class ProcessStart;
 class ReportPrinter;
+class ResultViews;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
@@ -65,6 +67,8 @@ private:
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
     std::unique_ptr<TrendingViews> trending_;
+    std::unique_ptr<ResultViews> results_;
+    std::unique_ptr<HelpViews> help_;
     std::unique_ptr<PLSViews> pls_;
     std::unique_ptr<TimingViews> timing_;
 };

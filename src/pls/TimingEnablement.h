@@ -53,6 +53,8 @@ public:
     /// As the view opens, before it is known whether a board answers: only the board's list.
     TimingEnablement();
 
+    bool operator==(const TimingEnablement&) const = default;
+
     /// Own flag of a control, whatever its frame.
     bool IsEnabled(TimingControl control) const { return controls_[Place(control)]; }
     /// `index` as FamilySize tells.

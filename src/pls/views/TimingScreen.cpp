@@ -155,14 +155,17 @@ void TimingScreen::DisableConfigControls() {
     ShowEnablement();
 }
 
+// Once a turn of the loop: nothing is to be done as long as nothing changes.
 void TimingScreen::AfterTick(bool configChanged) {
     TimingEnablement& enablement = state_.enablement;
-    const bool before = enablement.IsEnabled(Family::txtTmg, TimingEntryIndex::Offset);
+    const TimingEnablement before = enablement;
     enablement.AfterTick(state_.motion.MachineStopped(), configChanged);
-    const bool after = enablement.IsEnabled(Family::txtTmg, TimingEntryIndex::Offset);
+    if (before == enablement)
+        return;
     ShowEnablement();
-    if (before != after)
-        ShowTimingText(TimingEntryIndex::Offset, after ? QStringLiteral("0") : QStringLiteral("-"));
+    const bool live = enablement.IsEnabled(Family::txtTmg, TimingEntryIndex::Offset);
+    if (live != before.IsEnabled(Family::txtTmg, TimingEntryIndex::Offset))
+        ShowTimingText(TimingEntryIndex::Offset, live ? QStringLiteral("0") : QStringLiteral("-"));
 }
 
 void TimingScreen::ShowSetpoint(const ShownSetpoint& shown) {
