@@ -149,14 +149,15 @@ TEST_P(TimingFaults, OneAcknowledgeIsWrongInEachStep) {
 }
 
 TEST_P(TimingFaults, ABoardThatIsBusyForEverEndsOffline) {
-    if (std::string(GetParam().name) == "recall")
-        GTEST_SKIP() << "a recall asks for no readiness";
     Open();
     Prepare();
     line.SetBaud(9600); // time passes while the board answers
     board.SetBusyAnswers(1000000);
     GetParam().act(*this);
-    ExpectOfflineAndNothingLive();
+    if (std::string(GetParam().name) == "recall") // asks for no readiness
+        ExpectLiveAsTheStateHasIt();
+    else
+        ExpectOfflineAndNothingLive();
 }
 
 TEST_P(TimingFaults, TheMachineStartsBehindTheCommand) {

@@ -345,7 +345,6 @@ TEST_F(TimingMachine, CopyPutsTheSelectedCellsOnTheClipboard) {
 }
 
 TEST_F(TimingMachine, TheStripShowsTheSelectedChannelAndThePositionOfThePanels) {
-    Program(0, {});
     OpenOnline();
     Program(1, {{30, 330}});
     Type(Timing(1), "1");
