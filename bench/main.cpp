@@ -9,6 +9,7 @@
 #include "bench/StartRows.h"
 #include "bench/TableFileRows.h"
 #include "bench/TableRefreshRows.h"
+#include "bench/TimingViewRows.h"
 #include "bench/TrendRows.h"
 #include "bench/TypingRow.h"
 #include "bench/UploadRow.h"
@@ -42,6 +43,7 @@ std::vector<Measurement> Measurements() {
         {QStringLiteral("pls"), [board] { return bench::MeasurePLSTransfers(board); }},
         {QStringLiteral("table"), [board] { return bench::MeasureTableRefresh(board); }},
         {QStringLiteral("trend"), [board] { return bench::MeasureTrend(board); }},
+        {QStringLiteral("timing"), [board] { return bench::MeasureTimingView(board); }},
         {QStringLiteral("typing"), [board] { return std::vector{bench::MeasureTyping(board)}; }},
         {QStringLiteral("open"), bench::MeasureTableOpening},
         {QStringLiteral("offline"), [] { return std::vector{bench::MeasureOfflineTable()}; }},

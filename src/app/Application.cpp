@@ -6,6 +6,7 @@
 #include "app/ResultViews.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
+#include "app/TimingViews.h"
 #include "app/TransferViews.h"
 #include "app/TrendingViews.h"
 #include "controls/ViewHelpers.h"
@@ -53,6 +54,9 @@ void Application::RegisterViews() {
     trending_ = std::make_unique<TrendingViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                 transfers_->Runner(), window_);
     pls_ = std::make_unique<PLSViews>(platform_, window_);
+    timing_ =
+        std::make_unique<TimingViews>(platform_, link_, loops_, transfers_->Runner(), window_);
+    plsTransfer_->JoinTimingView(timing_->View());
     results_ = std::make_unique<ResultViews>(platform_, window_);
     help_ = std::make_unique<HelpViews>(platform_, files_, window_);
     RegisterCopy();

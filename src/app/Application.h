@@ -16,6 +16,7 @@ class ResultViews;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
+class TimingViews;
 class TransferViews;
 class TrendingViews;
 
@@ -69,4 +70,5 @@ private:
     std::unique_ptr<ResultViews> results_;
     std::unique_ptr<HelpViews> help_;
     std::unique_ptr<PLSViews> pls_;
+    std::unique_ptr<TimingViews> timing_;
 };

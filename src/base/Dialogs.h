@@ -10,6 +10,7 @@ constexpr int Critical = 16;                ///< OK, critical icon
 constexpr int CriticalRetryCancel = 21;     ///< Retry and Cancel, critical icon
 constexpr int YesNoCancelQuestion = 35;     ///< Yes, No and Cancel, question mark
 constexpr int YesNoQuestion = 36;           ///< Yes and No, question mark
+constexpr int RetryCancelQuestion = 37;     ///< Retry and Cancel, question mark
 constexpr int Exclamation = 48;             ///< OK, exclamation mark
 constexpr int Information = 64;             ///< OK, information icon
 constexpr int YesNoCancelInformation = 67;  ///< Yes, No and Cancel, information icon

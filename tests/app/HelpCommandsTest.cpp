@@ -45,8 +45,8 @@ TEST_F(HelpCommands, TheSplashIsUpAtTheStartAndAKeyGoesOn) {
     Stop();
     bool timerRan = false;
     bool tableUp = false;
-    application_ = std::make_unique<Application>(
-        Platform{clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, [] {}});
+    application_ = std::make_unique<Application>(Platform{
+        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, printer_, [] {}});
     InModalView(QStringLiteral("frmSplash"), [&](QWidget& splash) {
         timerRan = Window().Timer().Enabled();
         tableUp = Window().Children().IsVisible(QStringLiteral("frmStatusTable"));

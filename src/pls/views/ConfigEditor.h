@@ -1,0 +1,58 @@
+#pragma once
+
+#include "pls/OptionSwitches.h"
+#include "pls/views/TimingSeams.h"
+
+class TimingScreen;
+struct StandardPositions;
+struct TimingForm;
+struct TimingState;
+
+/// The configuration side of the timing view: it shows what the board has, and each entry changes
+/// gPLS at once. Nothing of it reaches the board before cmdResetPLSConfig.
+class ConfigEditor {
+public:
+    ConfigEditor(const TimingSeams& seams, TimingScreen& screen);
+
+    /// Reads the board's configuration, scale and offset into gPLS and shows them. Does nothing
+    /// offline and stops as soon as the link fails.
+    void ReadBoardConfig();
+    /// Brings the configuration controls on, with the options that the scale allows.
+    void EnableConfigControls();
+    /// What is shown once the board has refused a configuration and the user gives up: nothing is
+    /// known.
+    void ShowRefusedConfig();
+    /// Takes all values and choices off the screen.
+    void ShowOffline();
+
+    /// Entry 0 to 18 was left with a number within its range, or its up-down was pressed.
+    void EntryAccepted(int index, int value);
+    /// It was left without taking what was typed.
+    void EntryAbandoned(int index);
+
+    void cboTargetBoard_Click(int position);
+    void optPlsChan_Click(int option);
+    void optR6PlsChan_Click(int option);
+    void chkR6BWComp_Click(bool checked);
+    void chkR6SpdWinEn_Click(bool checked);
+    /// Options and check boxes as gPLS has them again: a click did not count.
+    void ShowChoices();
+
+private:
+    bool ReadNumbers();
+    void ShowConfig();
+    void ShowStandardConfig();
+    void ShowSwitches();
+    void ShowCoupling();
+    void TakeCoupling();
+    void StandardScaleStored(int scale);
+    void SwitchClickedTo(const OptionSwitch& option, bool checked);
+    void ShowEntry(int index);
+    void SetWindowMax();
+    void ChannelEntryToZero();
+
+    RSComm& link_;
+    TimingScreen& screen_;
+    TimingForm& form_;
+    TimingState& state_;
+};
