@@ -26,7 +26,7 @@ QHBoxLayout* RowOf(std::initializer_list<QWidget*> controls) {
 }
 } // namespace
 
-StatusTableForm::StatusTableForm(QWidget& view)
+StatusTableForm::StatusTableForm(QWidget& view, Alarms& alarms)
     : fraProgram(Make<QGroupBox>(view, "fraProgram", QStringLiteral("Program:"))),
       cmdSelectProgram(
           Make<QPushButton>(view, "cmdSelectProgram", QStringLiteral("Select &Program..."))),
@@ -36,7 +36,8 @@ StatusTableForm::StatusTableForm(QWidget& view)
           Make<QCheckBox>(view, "chkViewDescriptions", QStringLiteral("View &Descriptions"))),
       chkViewOffline(Make<QCheckBox>(view, "chkViewOffline", QStringLiteral("View Offline Data"))),
       fraStatus(Make<QGroupBox>(view, "fraStatus", QStringLiteral("&Status Table:"))),
-      fgStatus(new Grid(firstDataRow, &view)), lblPaste(Make<QLabel>(view, "lblPaste", QString())),
+      fgStatus(new Grid(firstDataRow, &view, alarms)),
+      lblPaste(Make<QLabel>(view, "lblPaste", QString())),
       cmdNewTable(Make<QPushButton>(view, "cmdNewTable", QStringLiteral("Ne&w"))),
       cmdOpenTable(Make<QPushButton>(view, "cmdOpenTable", QStringLiteral("&Open..."))),
       cmdSaveTable(Make<QPushButton>(view, "cmdSaveTable", QStringLiteral("S&ave"))),

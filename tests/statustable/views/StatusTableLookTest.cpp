@@ -62,7 +62,7 @@ protected:
 } // namespace
 
 TEST_P(StatusTableLook, ValuesAndChangedValuesStayReadable) {
-    QTest::qWait(GridModel::markTime + 100);
+    table->alarms.Pass(GridModel::markTime + 100);
     EXPECT_GT(Contrast(*table, 2, 2), 0.5);
     table->boardPort.board.Poke(100, 99);
     table->Until([this] { return table->Cell(2, 2) == "99"; });
