@@ -1,6 +1,7 @@
 #include "statustable/views/StatusTableForm.h"
 
 #include "controls/grid/Grid.h"
+#include "controls/WrappingRow.h"
 #include "statustable/AddressEntry.h"
 #include "statustable/TableBoards.h"
 #include <QBoxLayout>
@@ -59,9 +60,11 @@ StatusTableForm::StatusTableForm(QWidget& view, Alarms& alarms)
 void StatusTableForm::LayOut(QWidget& view) {
     auto* lblTargetBoard = new QLabel(QStringLiteral("Target &Board:"), &view);
     lblTargetBoard->setBuddy(cboTargetBoard);
-    QHBoxLayout* program = RowOf({cmdSelectProgram, lblTargetBoard, cboTargetBoard, chkViewNicNames,
-                                  chkViewDescriptions, chkViewOffline});
-    program->addStretch();
+    auto* program = new WrappingRow;
+    program->addWidget(cmdSelectProgram);
+    program->AddTogether({lblTargetBoard, cboTargetBoard});
+    for (QWidget* box : {chkViewNicNames, chkViewDescriptions, chkViewOffline})
+        program->addWidget(box);
     fraProgram->setLayout(program);
 
     QHBoxLayout* commands =
