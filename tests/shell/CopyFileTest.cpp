@@ -181,6 +181,33 @@ TEST_F(CopyFile, BrowseFillsTheSource) {
     EXPECT_EQ(request.fileName, Window().SelectedProgramPath());
 }
 
+TEST_F(CopyFile, TheDestinationDialogStartsInTheFolderOfTheNewName) {
+    dialogs_.ExpectSave(Other("BELT.hdn"));
+    dialogs_.ExpectSave(QString());
+    Copy([&](QWidget& view) {
+        Click(view, "cmdDestination");
+        Click(view, "cmdDestination");
+    });
+    ASSERT_EQ(dialogs_.FileRequests().size(), 2U);
+    EXPECT_EQ(dialogs_.FileRequests()[0].fileName, SetPath("PUMP.hdn"));
+    EXPECT_EQ(dialogs_.FileRequests()[1].fileName.toStdString(), " ");
+    EXPECT_EQ(dialogs_.FileRequests()[1].initDir, root_.filePath("other"));
+}
+
+TEST_F(CopyFile, WithoutASelectionTheDialogsStartInTheBrowsersFolder) {
+    Window().Browser().dirDirList_Change();
+    QDir::setCurrent(root_.path());
+    dialogs_.ExpectOpen(QString());
+    dialogs_.ExpectSave(QString());
+    Copy([&](QWidget& view) {
+        Click(view, "cmdBrowseSource");
+        Click(view, "cmdDestination");
+    });
+    ASSERT_EQ(dialogs_.FileRequests().size(), 2U);
+    for (const FileDialogRequest& request : dialogs_.FileRequests())
+        EXPECT_EQ(request.initDir, Window().Browser().Folder());
+}
+
 TEST_F(CopyFile, CancelledFileDialogChangesNothing) {
     dialogs_.ExpectSave(QString());
     Copy([&](QWidget& view) {
