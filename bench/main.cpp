@@ -3,6 +3,7 @@
 #include "bench/DumpRow.h"
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
+#include "bench/ResultsRow.h"
 #include "bench/Row.h"
 #include "bench/StartRows.h"
 #include "bench/TableFileRows.h"
@@ -43,6 +44,7 @@ std::vector<Measurement> Measurements() {
         {QStringLiteral("open"), bench::MeasureTableOpening},
         {QStringLiteral("offline"), [] { return std::vector{bench::MeasureOfflineTable()}; }},
         {QStringLiteral("browser"), [] { return std::vector{bench::MeasureBrowser()}; }},
+        {QStringLiteral("results"), [] { return std::vector{bench::MeasureResults()}; }},
         {QStringLiteral("start"),
          [] { return bench::MeasureStart(Beside(QStringLiteral("quentor"))); }}};
 }

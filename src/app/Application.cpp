@@ -1,5 +1,7 @@
 #include "app/Application.h"
 
+#include "app/PLSTransfer.h"
+#include "app/ResultViews.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
 #include "app/TransferViews.h"
@@ -41,11 +43,14 @@ void Application::RegisterViews() {
     };
     RegisterSetViews();
     transfers_ = std::make_unique<TransferViews>(platform_, link_, files_, window_);
+    plsTransfer_ = std::make_unique<PLSTransfer>(platform_, link_, transfers_->Jobs(),
+                                                 transfers_->Runner(), window_);
     statusTable_ = std::make_unique<StatusTableViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                       transfers_->Runner(), window_);
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
     trending_ = std::make_unique<TrendingViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                 transfers_->Runner(), window_);
+    results_ = std::make_unique<ResultViews>(platform_, window_);
     RegisterCopy();
 }
 

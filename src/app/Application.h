@@ -7,8 +7,10 @@
 #include "shell/frmMDIMain.h"
 #include <memory>
 
+class PLSTransfer;
 class ProcessStart;
 class ReportPrinter;
+class ResultViews;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
@@ -58,7 +60,9 @@ private:
     ViewLoopRunner loops_;
     frmMDIMain window_;
     std::unique_ptr<TransferViews> transfers_;
+    std::unique_ptr<PLSTransfer> plsTransfer_;
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
     std::unique_ptr<TrendingViews> trending_;
+    std::unique_ptr<ResultViews> results_;
 };

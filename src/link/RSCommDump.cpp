@@ -151,14 +151,16 @@ void RSComm::WriteConfiguration() {
 
 // What the board answers to the mode byte does not matter, but that it answers does: the attention
 // after a time-out takes the board out of program mode again, and the records would be commands to
-// a running machine. The mode byte is sent again, and the user is asked when that does not help.
+// a running machine. So they would be where the attention is not acknowledged, since then the board
+// does not wait for a command. Both are sent again, and the user is asked when that does not help.
 void RSComm::EnterProgramMode() {
     for (int attempt = 1; !commError_; ++attempt) {
-        ExchangeByte(attention);
+        const int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
+        inDoubt_ = inDoubt_ || reply != acknowledge;
         linkMode_ = LinkMode::Program; // a time-out takes it back
-        if (!commError_)
+        if (reply == acknowledge)
             ExchangeByte(programModeByte);
-        if (linkMode_ == LinkMode::Program)
+        if (reply == acknowledge && linkMode_ == LinkMode::Program)
             break;
         if (attempt % modeAttempts == 0 && !commError_ && !UserRetriesLine())
             commError_ = true;

@@ -13,6 +13,12 @@ constexpr double firstReplyTime = 1.0;  // seconds until the first time-out
 constexpr double resyncReplyTime = 2.0; // seconds after each resynchronising attention
 constexpr int timeOutsBeforeAlert = 3;  // 1 + 2 + 2 seconds on a dead line
 constexpr double handshakeTime = 2.0;   // seconds in which a mode must be entered
+constexpr double quietLineTime = 0.05;  // seconds without a byte that count as a quiet line
+constexpr double noisyLineTime = 1.0;   // seconds after which a line is given up as never quiet
+
+bool IsPLSMode(int mode) {
+    return mode >= LinkMode::PLSChannel && mode <= LinkMode::PLSTable;
+}
 
 QString CannotCommunicate() {
     return QStringLiteral("Cannot Communicate with Target Board.\r"
@@ -49,6 +55,8 @@ int RSComm::ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input) 
         commError_ = true;
         return noReply;
     }
+    if (inDoubt_)
+        LetLineFallQuiet();
     if (input == InputBuffer::Clear)
         port_->SetInBufferCount(0);
     port_->SetInputLen(1);
@@ -66,6 +74,7 @@ int RSComm::AwaitReply() {
     int timeOuts = 0;
     while (!InputArrives(deadline, display)) {
         linkMode_ = LinkMode::None;
+        inDoubt_ = true;
         commError_ = true;
         commErrorAlert_ = true;
         deadline = clock_.MonotonicSeconds() + resyncReplyTime;
@@ -128,11 +137,26 @@ void RSComm::WaitSeconds(double seconds) {
         clock_.Wait(std::min(deadline, display.Look(now)) - now);
 }
 
+// Waits until nothing more arrives, and throws away what did: a reply that a time-out gave up, or
+// the second of a doubled one. Taken for the answer to the next byte it would leave all further
+// replies one byte behind, and an attention that meets a board in the middle of a write is stored
+// as data.
+void RSComm::LetLineFallQuiet() {
+    LongWait display(busy_, clock_);
+    const double end = clock_.MonotonicSeconds() + noisyLineTime;
+    double now = clock_.MonotonicSeconds();
+    while (now < end && InputArrives(now + quietLineTime, display)) {
+        port_->SetInBufferCount(0);
+        now = clock_.MonotonicSeconds();
+    }
+    inDoubt_ = false;
+}
+
 // Enters a link mode: attention and the mode byte, each to be acknowledged. When the mode byte
 // timed out, what then answered was the acknowledge of an attention and the board waits for a
 // command: an address byte 0x03 sent now would stop the machine in program mode. The handshake
-// starts over.
-bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
+// starts over. `dataBytes` is what the board takes after the mode byte without looking at it.
+bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes) {
     linkMode_ = LinkMode::None;
     double deadline = clock_.MonotonicSeconds() + handshakeTime;
     for (;;) {
@@ -145,9 +169,11 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
             }
             deadline = clock_.MonotonicSeconds() + handshakeTime;
         }
+        linkMode_ = mode; // a time-out takes it back
         int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
-        if (reply == acknowledge) {
-            linkMode_ = mode; // a time-out takes it back
+        if (reply == acknowledge && BoardAwaitsCommand(mode)) {
+            linkMode_ = mode;
+            dataOwed_ = dataBytes;
             reply = ExchangeByte(modeByte);
             if (reply == acknowledge && linkMode_ == mode)
                 return true;
@@ -155,5 +181,24 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
         linkMode_ = LinkMode::None;
         if (reply == noReply)
             return false;
+        inDoubt_ = inDoubt_ || reply != acknowledge;
     }
+}
+
+// Whether an acknowledged attention means that the board waits for a command. Where it takes data
+// it takes an attention for data too, and acknowledges it: a command that was cut short is first
+// filled up with attentions, of which only those count that were answered in time. The limit
+// switch commands have no echo: an acknowledge that comes late would pass for their data, so after
+// a time-out the line must be quiet before they begin.
+bool RSComm::BoardAwaitsCommand(int mode) {
+    const bool timedOut = linkMode_ != mode;
+    if (dataOwed_ > 0) {
+        dataOwed_ -= timedOut ? 0 : 1;
+        return false;
+    }
+    if (timedOut && IsPLSMode(mode)) {
+        LetLineFallQuiet();
+        return false;
+    }
+    return true;
 }

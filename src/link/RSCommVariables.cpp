@@ -59,6 +59,7 @@ bool RSComm::ReadByteAt(qint32 address, std::uint8_t& data) {
         return false;
     if (echo != high || linkMode_ != LinkMode::Read) {
         linkMode_ = LinkMode::None;
+        inDoubt_ = true;
         return false;
     }
     const int reply = ExchangeByte(static_cast<std::uint8_t>(address % 256));
@@ -143,6 +144,7 @@ void RSComm::SendBytes(qint32 address, const QByteArray& bytes) {
                            EchoedAlike(static_cast<std::uint8_t>(data), answered);
         if (!alike) {
             writeFailed_ = answered;
+            inDoubt_ = true;
             if (answered)
                 linkMode_ = LinkMode::None;
             return;

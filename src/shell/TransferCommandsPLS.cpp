@@ -62,7 +62,8 @@ void TransferCommands::ShowDownloadedChannels() {
         pls.DisplayPLSChannels();
 }
 
-// Only what was read in this call is saved: a refusal leaves the set's files alone.
+// Only what was read in this call is saved: a refusal leaves the set's files alone, and so does an
+// upload that never began because the port would not open.
 void TransferCommands::mnuFileListPopupUploadFromPLS_Click() {
     const auto ended = qScopeGuard([this] { context_.link.SetInUploadMode(false); });
     const PLSRoute& pls = *context_.views.pls;
@@ -76,7 +77,7 @@ void TransferCommands::mnuFileListPopupUploadFromPLS_Click() {
         context_.mode.GoOnline();
         if (!context_.link.CommError() && pls.ReadPLSFileData(gHdnFile)) {
             pls.RunWaitJob(uploadChannels);
-            uploaded = true;
+            uploaded = !pls.channelText().isEmpty();
         }
     }
     if (uploaded && !context_.link.CommError())

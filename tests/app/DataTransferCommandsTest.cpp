@@ -154,11 +154,10 @@ TEST_F(DataTransferCommands, AWrongRangeIsToldAndTransfersNothing) {
 TEST_F(DataTransferCommands, ASetOfALimitSwitchBoardTransfersNoData) {
     for (const char* entry : {"mnuFileDownloadData", "mnuFileUploadData"}) {
         dialogs_.ExpectOpen(SetPath(QStringLiteral("CAMS.hdn")));
+        dialogs_.ExpectBoxTitled(QStringLiteral("PLS Upload [CAMS]"), MsgAnswer::No);
         Entry(QLatin1String(entry))->trigger();
         EXPECT_TRUE(Window().Timer().Enabled());
     }
-    ClickSet(QStringLiteral("CAMS.hdn"));
-    EXPECT_TRUE(dialogs_.Boxes().empty());
     EXPECT_TRUE(port_.Sent().empty());
     EXPECT_FALSE(QFile::exists(SetPath(QStringLiteral("CAMS.ldt"))));
 }

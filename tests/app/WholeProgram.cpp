@@ -12,7 +12,7 @@ namespace {
 constexpr int patience = 10000; // milliseconds
 } // namespace
 
-WholeProgram::WholeProgram() {
+WholeProgram::WholeProgram(int boardModel) : WholeWindow(boardModel) {
     QObject::connect(&look_, &QTimer::timeout, &look_, [this] { Look(); });
 }
 

@@ -13,7 +13,7 @@ class QWidget;
 /// at the modal views: what is to be done in one is told before it comes up.
 class WholeProgram : public WholeWindow {
 protected:
-    WholeProgram();
+    explicit WholeProgram(int boardModel = haldenboard::SimulatedBoard::DefaultModel);
     ~WholeProgram() override;
 
     /// Runs the start-up, opens the browser on the sets and selects UNIT.

@@ -61,7 +61,7 @@ const std::vector<Row> viewRows = {
     {"mnuViewSep1", "", "", Enabled},
     {"mnuViewTargetBoardStatus", "Target &Board Interface", "F5", Enabled},
     {"mnuViewSep2", "", "", Enabled},
-    {"mnuViewCompileErrors", "&Compile Errors", "", Disabled},
+    {"mnuViewCompileErrors", "&Compile Errors", "", Enabled},
     {"mnuViewSearchResults", "Search &Results", "", Later},
 };
 const std::vector<Row> toolsRows = {

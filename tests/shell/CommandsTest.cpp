@@ -223,8 +223,8 @@ TEST_F(Commands, AnErrorThatAHandlerLetsThroughIsShown) {
 }
 
 TEST_F(Commands, EntriesOfViewsThatAreNotThereAreDisabled) {
-    for (const char* name : {"mnuToolsTrending", "mnuToolsPLSProgramming", "mnuHelpAbout",
-                             "mnuHelpTopics", "mnuViewCompileErrors", "Trend", "PLS", "View"})
+    for (const char* name :
+         {"mnuToolsPLSProgramming", "mnuHelpAbout", "mnuHelpTopics", "PLS", "View"})
         EXPECT_FALSE(Entry(name)->isEnabled()) << name;
     EXPECT_TRUE(Entry("mnuFileExit")->isEnabled());
 }

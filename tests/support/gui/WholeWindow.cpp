@@ -52,7 +52,8 @@ Drive ScriptedDrives::At(const QString& root) const {
     return drive;
 }
 
-WholeWindow::WholeWindow() : startDirectory_(QDir::currentPath()) {
+WholeWindow::WholeWindow(int boardModel)
+    : board_(boardModel), startDirectory_(QDir::currentPath()) {
     ForgetGlobals();
     const QDir root(root_.path());
     root.mkpath(QStringLiteral("app/support"));
@@ -74,8 +75,9 @@ WholeWindow::~WholeWindow() {
 }
 
 void WholeWindow::Start() {
-    application_ = std::make_unique<Application>(Platform{
-        clock_, dialogs_, busy_, port_, *folder_, drives_, ports_, tools_, printer_, [this] { ++ended_; }});
+    application_ =
+        std::make_unique<Application>(Platform{clock_, dialogs_, busy_, port_, *folder_, drives_,
+                                               ports_, tools_, printer_, [this] { ++ended_; }});
     application_->Start();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
 }

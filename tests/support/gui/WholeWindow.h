@@ -36,7 +36,8 @@ public:
 /// comes by itself within the half second that a test may take; Tick() gives one.
 class WholeWindow : public testing::Test {
 protected:
-    WholeWindow();
+    /// `boardModel` is what the simulated board is, by its board index.
+    explicit WholeWindow(int boardModel = haldenboard::SimulatedBoard::DefaultModel);
     ~WholeWindow() override;
 
     /// Builds the application and runs its start-up.
