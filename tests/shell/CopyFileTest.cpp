@@ -91,6 +91,21 @@ TEST_F(CopyFile, TakesEveryFileOfTheSetAndShowsTheCopy) {
     EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [PUMP]");
 }
 
+TEST_F(CopyFile, NoTwoButtonsShareAKeyBeforeOrAfterACopy) {
+    const auto keys = [](const QWidget& view) {
+        QStringList shortcuts;
+        for (const QPushButton* button : view.findChildren<QPushButton*>())
+            shortcuts.append(button->shortcut().toString());
+        return shortcuts;
+    };
+    Copy([&](QWidget& view) {
+        EXPECT_EQ(keys(view).removeDuplicates(), 0);
+        CopyTo(view, "BELT.hdn");
+        EXPECT_TRUE(keys(view).contains("Alt+O"));
+        EXPECT_EQ(keys(view).removeDuplicates(), 0) << keys(view).join(u' ').toStdString();
+    });
+}
+
 TEST_F(CopyFile, DestinationOfEightLettersGivesTheShortNameBox) {
     ExpectShortNameBox();
     Copy([&](QWidget& view) { CopyTo(view, "EIGHTLET.hdn"); });
