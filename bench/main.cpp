@@ -3,6 +3,7 @@
 #include "bench/DumpRow.h"
 #include "bench/ExchangeRow.h"
 #include "bench/PacedRows.h"
+#include "bench/PLSTransferBench.h"
 #include "bench/ResultsRow.h"
 #include "bench/Row.h"
 #include "bench/StartRows.h"
@@ -38,6 +39,7 @@ std::vector<Measurement> Measurements() {
         {QStringLiteral("dump"), [board] { return std::vector{bench::MeasureDump(board)}; }},
         {QStringLiteral("upload"), [board] { return bench::MeasureUpload(board); }},
         {QStringLiteral("data"), [board] { return bench::MeasureDataTransfers(board); }},
+        {QStringLiteral("pls"), [board] { return bench::MeasurePLSTransfers(board); }},
         {QStringLiteral("table"), [board] { return bench::MeasureTableRefresh(board); }},
         {QStringLiteral("trend"), [board] { return bench::MeasureTrend(board); }},
         {QStringLiteral("typing"), [board] { return std::vector{bench::MeasureTyping(board)}; }},

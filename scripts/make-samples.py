@@ -15,7 +15,29 @@ SETS = [
     ("PANEL", "A", 0x2000, 768, 1, (1, 0, 2), "Operator panel of the packing cell"),
 ]
 LCF_BOARD = {"A": "E"}
-PLS_SETS = [("CAM1", "E")]
+
+# Limit switch sets: base name, first character of the .hdn file, digits of a position, constant of a
+# channel's header line, number of channels, scale, the rest of the .PCF line's digits, and for the
+# channels that are used, by their number, a label and the setpoints (ON, OFF). ON above OFF wraps
+# round through 0.
+PLS_SETS = [
+    ("CAM1", "E", 4, "1:000:000:000", 16, 1000, "1" "012" "012" "008" "000" "000" "025" "000" "000", {
+        0: ("GLUE GUN LEFT", [(120, 260), (620, 760)]),
+        1: ("GLUE GUN RIGHT", [(125, 265), (625, 765)]),
+        2: ("REJECT GATE, LINE 2", [(410, 455)]),
+        3: ("CLAMP", [(930, 80)]),
+        5: ("AIR BLAST", [(300, 310), (340, 350), (380, 390), (980, 5)]),
+        8: ("LAMP", [(0, 500)]),
+    }),
+    ("CAM2", "7", 3, "1:00:00:00", 16, 360, "3" "012" "180" "005" "020" "090" "270" "0040" "0120", {
+        0: ("BRAKE", [(170, 190)]),
+        1: ("CLUTCH", [(10, 165)]),
+        2: ("FEED ROLLS", [(200, 340)]),
+        4: ("TOP STOP", [(350, 10)]),
+        9: ("PART EJECT", [(30, 45), (75, 90), (120, 135)]),
+        15: ("SPEED WINDOW", [(0, 359)]),
+    }),
+]
 
 # What PUMP1 calls its variables: section by section (flags, memory, X inputs, Y outputs), each
 # variable with a short name, a description, and the names of some of its bits.
@@ -75,6 +97,18 @@ def write_set(base, board, start, length, revision, config, title):
         write(f"{base}.lcf", f"{LCF_BOARD[board]}{'0' * 34}{a}00{b}{c}000%")
 
 
+def write_pls_set(base, board, digits, constant, channels, scale, rest, used):
+    """The set of a limit switch board: the model, the configuration, the setpoints."""
+    write(f"{base}.hdn", board)
+    write(f"{base}.PCF", f"{channels:02}{scale:0{digits}}{rest}{'0' * 16}%")
+    lines = [f":{scale:0{digits}}", f":{0:0{digits}}"]
+    for channel in range(channels):
+        label, setpoints = used.get(channel, ("", []))
+        lines.append(f":{channel:02o}{constant}{label:21}")
+        lines += (f"|{on:0{digits}}{off:0{digits}}" for on, off in setpoints)
+    write(f"{base}.CHL", *lines, "%")
+
+
 def name_lines(kind):
     """Lines of a name file; kind 0 gives the short names, 1 the descriptions."""
     for section, variables in enumerate(PUMP1_NAMES):
@@ -92,8 +126,8 @@ def main():
     FOLDER.mkdir(exist_ok=True)
     for row in SETS:
         write_set(*row)
-    for base, board in PLS_SETS:
-        write(f"{base}.hdn", board)
+    for row in PLS_SETS:
+        write_pls_set(*row)
     write("PUMP1.nam", *name_lines(0))
     write("PUMP1.doc", *name_lines(1))
     write("PUMP1.tbl", " 50 ", *PUMP1_TABLE, "")

@@ -1,6 +1,8 @@
 #include "app/Application.h"
 
+#include "app/HelpViews.h"
 #include "app/PLSTransfer.h"
+#include "app/PLSViews.h"
 #include "app/ResultViews.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
@@ -50,7 +52,9 @@ void Application::RegisterViews() {
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
     trending_ = std::make_unique<TrendingViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                 transfers_->Runner(), window_);
+    pls_ = std::make_unique<PLSViews>(platform_, window_);
     results_ = std::make_unique<ResultViews>(platform_, window_);
+    help_ = std::make_unique<HelpViews>(platform_, files_, window_);
     RegisterCopy();
 }
 

@@ -7,7 +7,9 @@
 #include "shell/frmMDIMain.h"
 #include <memory>
 
+class HelpViews;
 class PLSTransfer;
+class PLSViews;
 class ProcessStart;
 class ReportPrinter;
 class ResultViews;
@@ -65,4 +67,6 @@ private:
     std::unique_ptr<TargetBoardViews> targetBoard_;
     std::unique_ptr<TrendingViews> trending_;
     std::unique_ptr<ResultViews> results_;
+    std::unique_ptr<HelpViews> help_;
+    std::unique_ptr<PLSViews> pls_;
 };

@@ -4,6 +4,7 @@
 #include "base/port/SerialMSComm.h"
 #include "base/port/SystemSerialPorts.h"
 #include "base/ProcessStart.h"
+#include "base/VersionRecord.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
 #include "reports/views/PrinterSurface.h"
@@ -22,8 +23,8 @@ ApplicationFolder FindApplicationFolder() {
 
 int main(int argc, char** argv) {
     QApplication qt(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("Quentor"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(QUENTOR_VERSION));
+    QCoreApplication::setApplicationName(ProgramVersion().title);
+    QCoreApplication::setApplicationVersion(ProgramVersion().Number());
     QGuiApplication::setDesktopFileName(QStringLiteral("quentor"));
 
     const ApplicationFolder folder = FindApplicationFolder();

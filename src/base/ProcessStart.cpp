@@ -6,6 +6,11 @@
 
 ProcessStart::~ProcessStart() = default;
 
+QString CommandWord(const QString& word) {
+    const QString quoted = QString(word).replace(u'"', QLatin1String("\"\"\""));
+    return word.contains(u' ') ? u'"' + quoted + u'"' : quoted;
+}
+
 // The platform decides about windows of other programs, so the style is only a wish.
 void SystemProcessStart::Shell(const QString& command, int /*windowStyle*/) {
     QStringList words = QProcess::splitCommand(command);

@@ -2,6 +2,10 @@
 
 #include <QString>
 
+/// A word of a command line as Shell takes it apart again: in quotes if it holds a blank, each
+/// quote that belongs to it as three.
+QString CommandWord(const QString& word);
+
 /// The seam for starting other programs.
 class ProcessStart {
 public:

@@ -6,20 +6,27 @@
 
 namespace {
 int holds = 0;
+int holdsForWork = 0;
 } // namespace
 
 ViewLoop::~ViewLoop() = default;
 
-ViewLoopHold::ViewLoopHold() {
+ViewLoopHold::ViewLoopHold(For what) : what_(what) {
     ++holds;
+    holdsForWork += what_ == For::Work ? 1 : 0;
 }
 
 ViewLoopHold::~ViewLoopHold() {
     --holds;
+    holdsForWork -= what_ == For::Work ? 1 : 0;
 }
 
 bool ViewLoopHold::AnyHeld() {
     return holds > 0;
+}
+
+bool ViewLoopHold::AnyHeldForWork() {
+    return holdsForWork > 0;
 }
 
 ViewLoopRunner::ViewLoopRunner(ModalTest blockedByModal, Alarms& alarms)

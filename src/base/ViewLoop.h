@@ -24,12 +24,21 @@ public:
 /// message boxes. Holds may nest.
 class ViewLoopHold {
 public:
-    ViewLoopHold();
+    /// What the loops wait for: work that has the line to itself, or a prompt, behind which the
+    /// timers of views go on.
+    enum class For { Work, Prompt };
+
+    explicit ViewLoopHold(For what = For::Work);
     ~ViewLoopHold();
     ViewLoopHold(const ViewLoopHold&) = delete;
     ViewLoopHold& operator=(const ViewLoopHold&) = delete;
     /// True while at least one hold lives.
     static bool AnyHeld();
+    /// True while at least one hold for work lives.
+    static bool AnyHeldForWork();
+
+private:
+    const For what_;
 };
 
 /// Gives steps, one per turn of the event loop, to the loop that was activated last and still

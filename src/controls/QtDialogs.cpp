@@ -38,7 +38,7 @@ void SelectFilter(QFileDialog& dialog, const FileDialogRequest& request) {
 }
 
 QString ChosenFile(QFileDialog& dialog, const FileDialogRequest& request) {
-    const ViewLoopHold hold;
+    const ViewLoopHold hold(ViewLoopHold::For::Prompt);
     if (!request.title.isEmpty())
         dialog.setWindowTitle(request.title);
     SelectFilter(dialog, request);
@@ -66,7 +66,7 @@ QStringList NameFilters(const QString& filter) {
 }
 
 int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
-    const ViewLoopHold hold;
+    const ViewLoopHold hold(ViewLoopHold::For::Prompt);
     const MessageBoxStyle parts = StyleOfNumber(style);
     QMessageBox box(ParentWindow());
     const bool columns = text.contains(u'\t');
@@ -82,7 +82,7 @@ int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
 
 QString QtDialogs::InputBox(const QString& prompt, const QString& title,
                             const QString& defaultText) {
-    const ViewLoopHold hold;
+    const ViewLoopHold hold(ViewLoopHold::For::Prompt);
     bool accepted = false;
     const QString answer = QInputDialog::getText(ParentWindow(), title, WithLineFeeds(prompt),
                                                  QLineEdit::Normal, defaultText, &accepted);
@@ -108,7 +108,7 @@ QString QtDialogs::ShowSave(const FileDialogRequest& request) {
 
 // Where there is no printer the print dialog offers the PDF file alone.
 PrinterChoice QtDialogs::ShowPrinter() {
-    const ViewLoopHold hold;
+    const ViewLoopHold hold(ViewLoopHold::For::Prompt);
     QPrinter printer;
     QPrintDialog dialog(&printer, ParentWindow());
     dialog.setOption(QAbstractPrintDialog::PrintToFile, true);

@@ -16,10 +16,6 @@ constexpr double handshakeTime = 2.0;   // seconds in which a mode must be enter
 constexpr double quietLineTime = 0.05;  // seconds without a byte that count as a quiet line
 constexpr double noisyLineTime = 1.0;   // seconds after which a line is given up as never quiet
 
-bool IsPLSMode(int mode) {
-    return mode >= LinkMode::PLSChannel && mode <= LinkMode::PLSTable;
-}
-
 QString CannotCommunicate() {
     return QStringLiteral("Cannot Communicate with Target Board.\r"
                           "Verify RS-232 Cable is Connected Between\r"
@@ -187,18 +183,11 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes) {
 
 // Whether an acknowledged attention means that the board waits for a command. Where it takes data
 // it takes an attention for data too, and acknowledges it: a command that was cut short is first
-// filled up with attentions, of which only those count that were answered in time. The limit
-// switch commands have no echo: an acknowledge that comes late would pass for their data, so after
-// a time-out the line must be quiet before they begin.
+// filled up with attentions, of which only those count that were answered in time.
 bool RSComm::BoardAwaitsCommand(int mode) {
+    if (dataOwed_ == 0)
+        return true;
     const bool timedOut = linkMode_ != mode;
-    if (dataOwed_ > 0) {
-        dataOwed_ -= timedOut ? 0 : 1;
-        return false;
-    }
-    if (timedOut && IsPLSMode(mode)) {
-        LetLineFallQuiet();
-        return false;
-    }
-    return true;
+    dataOwed_ -= timedOut ? 0 : 1;
+    return false;
 }

@@ -11,6 +11,7 @@ constexpr std::uint8_t acknowledge = 0x55;
 constexpr std::uint8_t clockByte = 0x55; // asks for the next data byte
 constexpr std::uint8_t readyPoll = 0x38;
 constexpr std::uint8_t readyAnswer = 0x00;
+constexpr std::uint8_t busyAnswer = 0x55;
 constexpr std::uint8_t recallCommand = 0x09;
 constexpr double readyTime = 3.0;      // seconds in which the board must become ready
 constexpr double readyRetryTime = 2.0; // seconds more after each Retry
@@ -60,8 +61,10 @@ bool RSComm::SendPLSData(int mode, std::uint8_t command, std::span<const std::ui
     if (!SetTargetMode(mode, command, static_cast<int>(data.size())))
         return false;
     for (const std::uint8_t byte : data)
-        if (ExchangeByte(byte) != acknowledge || linkMode_ != mode)
+        if (ExchangeByte(byte) != acknowledge || linkMode_ != mode) {
+            inDoubt_ = true;
             return false;
+        }
     dataOwed_ = 0;
     return true;
 }
@@ -106,19 +109,23 @@ bool RSComm::WaitPLSReady() {
         linkMode_ = mode;
         if (BoardSaysReady(mode))
             return true;
-        if (linkMode_ != mode && !commError_)
-            LetLineFallQuiet();
     }
     return false;
 }
 
-// One poll. It begins with an empty input buffer: a late reply is no answer to it.
+// One poll. It begins with an empty input buffer, and on a quiet line after an answer that cannot
+// be one to a poll: a stray byte would leave every further poll one byte behind.
 bool RSComm::BoardSaysReady(int mode) {
-    if (ExchangeByte(readyPoll, Reply::Wait, InputBuffer::Clear) != acknowledge ||
-        linkMode_ != mode)
+    const int heard = ExchangeByte(readyPoll, Reply::Wait, InputBuffer::Clear);
+    if (heard != acknowledge || linkMode_ != mode) {
+        inDoubt_ = true;
         return false;
-    if (ExchangeByte(clockByte) != readyAnswer || linkMode_ != mode)
+    }
+    const int answer = ExchangeByte(clockByte);
+    if (answer != readyAnswer || linkMode_ != mode) {
+        inDoubt_ = inDoubt_ || answer != busyAnswer;
         return false;
+    }
     ExchangeByte(clockByte); // ends the poll; whatever it brings, the board is ready
     return true;
 }

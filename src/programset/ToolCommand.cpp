@@ -1,6 +1,7 @@
 #include "programset/ToolCommand.h"
 
 #include "base/FileSystem.h"
+#include "base/ProcessStart.h"
 #include "link/TargetBoards.h"
 #include "programset/ShortName.h"
 #include <QDir>
@@ -20,13 +21,6 @@ QString ToolOf(qint16 boardIndex) {
     return MemoryClass(boardIndex) == 'B' ? QStringLiteral("tgt96/pgmsetup.exe")
                                           : QStringLiteral("tgt51/pgmsetup1.exe");
 }
-
-// Three quotes in a row are how the start of a process takes a quote that belongs to a name.
-QString AsOneWord(QString word) {
-    const bool needsQuotes = word.contains(u' ');
-    word.replace(u'"', QLatin1String("\"\"\""));
-    return needsQuotes ? u'"' + word + u'"' : word;
-}
 } // namespace
 
 QString ToolCommand(const QString& applicationFolder, qint16 boardIndex, const QString& stem) {
@@ -36,8 +30,8 @@ QString ToolCommand(const QString& applicationFolder, qint16 boardIndex, const Q
     const QString argument =
         IsPLSBoard(boardIndex) ? stem : stem + u'=' + LCFBoardIndex(boardIndex);
     const QString program = FileSystem().BuildPath(applicationFolder, tool);
-    return AsOneWord(QDir::toNativeSeparators(program)) + u' ' +
-           AsOneWord(QDir::toNativeSeparators(argument));
+    return CommandWord(QDir::toNativeSeparators(program)) + u' ' +
+           CommandWord(QDir::toNativeSeparators(argument));
 }
 
 QString ToolStem(const QString& hdnFile) {

@@ -113,8 +113,8 @@ public:
     int Page() const { return page_; }
     /// The next sheet; the position goes back to the origin.
     void NewPage();
-    /// The document is complete and goes to the printer. Raises RunTimeError 57 or 75 when it
-    /// cannot be put out.
+    /// The document is complete and goes to the printer. Raises RunTimeError 57 or 68 when
+    /// the printer failed, also before that, and 61, 75 or 76 for a file that cannot be written.
     virtual void EndDoc() = 0;
 
 protected:

@@ -32,6 +32,10 @@ QString ElapsedSeconds(double start, double now) {
     return QString::number(RoundToWhole(elapsed * 100.0) / 100.0, 'g', 10);
 }
 
+qint32 CountAfter(qint32 count) {
+    return count >= TrendAcquisition::highestCount ? 0 : count + 1;
+}
+
 TrendAcquisition::TrendAcquisition(RSComm& link, const Clock& clock, TrendDisplay& display)
     : link_(link), clock_(clock), display_(display) {}
 
@@ -92,7 +96,8 @@ void TrendAcquisition::TimerTick() {
         return;
     pace_.Served(now);
     // A box of the link or a job may be up; the exchange that it belongs to must not be broken.
-    if (MaySample() && !link_.OperationRuns() && !ViewLoopHold::AnyHeld())
+    // Any other box, that of a fault of the board above all, must not cost samples.
+    if (MaySample() && !link_.OperationRuns() && !ViewLoopHold::AnyHeldForWork())
         AddSample(ReadValue());
     if (TimerEnabled() && pace_.Due(clock_.MonotonicSeconds()))
         pace_.Served(clock_.MonotonicSeconds()); // passed during the read
@@ -111,7 +116,7 @@ QString TrendAcquisition::ElapsedText() {
 
 void TrendAcquisition::AddSample(const QString& value) {
     const QString elapsed = ElapsedText();
-    SetCounter(counter_ == highestCount ? 0 : counter_ + 1);
+    SetCounter(CountAfter(counter_));
     display_.SampleAdded(samples_.Add({elapsed, value}));
 }
 

@@ -101,3 +101,6 @@ private:
 /// Seconds from `start` to `now`, both since midnight, in hundredths with halves to the even one:
 /// "12.34", "0.5", "7". An earlier `now` is of the day after, whose midnight costs a second.
 QString ElapsedSeconds(double start, double now);
+
+/// The sample counter after one more sample: 0 after highestCount.
+qint32 CountAfter(qint32 count);

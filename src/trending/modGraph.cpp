@@ -1,6 +1,7 @@
 #include "trending/modGraph.h"
 
 #include "base/NumberReader.h"
+#include "base/RunTimeError.h"
 #include "reports/DrawingSurface.h"
 #include <algorithm>
 #include <cmath>
@@ -25,12 +26,29 @@ QString RoundedText(double value) {
     return QString::number(static_cast<qint64>(std::nearbyint(value)));
 }
 
-void PrintCentred(DrawingSurface& surface, const QString& text, double top) {
-    surface.SetCurrentX(surface.ScaleWidth() / 2 - surface.TextWidth(text) / 2);
-    surface.SetCurrentY(top);
-    surface.Print(text);
+template <class Statement>
+void Attempt(const Statement& statement) {
+    try {
+        statement();
+    } catch (const RunTimeError&) {
+        return; // the next statement may succeed
+    }
 }
 } // namespace
+
+void modGraph::Print(const QString& text) {
+    Attempt([&] { surface_->Print(text); });
+}
+
+void modGraph::PrintCentred(const QString& text, double top) {
+    surface_->SetCurrentX(surface_->ScaleWidth() / 2 - surface_->TextWidth(text) / 2);
+    surface_->SetCurrentY(top);
+    Print(text);
+}
+
+void modGraph::Line(double x1, double y1, double x2, double y2) {
+    Attempt([&] { surface_->Line(x1, y1, x2, y2); });
+}
 
 void modGraph::DrawGraphFrame(DrawingSurface& surface) {
     surface_ = &surface;
@@ -49,9 +67,9 @@ void modGraph::DrawGraphFrame(DrawingSurface& surface) {
 void modGraph::DrawTitles() {
     surface_->SetFontBold(true);
     surface_->SetFontUnderline(true);
-    PrintCentred(*surface_, QStringLiteral("Trending Data"), titleTop);
+    PrintCentred(QStringLiteral("Trending Data"), titleTop);
     surface_->SetFontUnderline(false);
-    PrintCentred(*surface_, QStringLiteral("Samples"), surface_->ScaleHeight() - xTitleRoom);
+    PrintCentred(QStringLiteral("Samples"), surface_->ScaleHeight() - xTitleRoom);
 }
 
 // Stands on the position that the titles left: one line below "Samples".
@@ -63,9 +81,9 @@ void modGraph::DrawAxes() {
     const int rightEdge = RoundToWhole(surface_->ScaleWidth() - rightRoom);
     plotWidth_ = rightEdge - leftEdge;
     plotHeight_ = originY_ - topEdge;
-    surface_->Line(leftEdge, originY_, rightEdge, originY_);
-    surface_->Line(leftEdge, topEdge, leftEdge, originY_);
-    surface_->Line(rightEdge, topEdge, rightEdge, originY_);
+    Line(leftEdge, originY_, rightEdge, originY_);
+    Line(leftEdge, topEdge, leftEdge, originY_);
+    Line(rightEdge, topEdge, rightEdge, originY_);
 }
 
 void modGraph::DrawDottedGrid() {
@@ -75,12 +93,12 @@ void modGraph::DrawDottedGrid() {
     const double xStep = static_cast<double>(plotWidth_) / xParts;
     for (int i = 1; i < xParts; ++i) {
         const int x = RoundToWhole(originX_ + xStep * i);
-        surface_->Line(x, originY_, x, originY_ - plotHeight_);
+        Line(x, originY_, x, originY_ - plotHeight_);
     }
     const double yStep = static_cast<double>(plotHeight_) / yParts;
     for (int i = 1; i <= yParts; ++i) {
         const int y = RoundToWhole(originY_ - yStep * i);
-        surface_->Line(originX_, y, originX_ + plotWidth_, y);
+        Line(originX_, y, originX_ + plotWidth_, y);
     }
 }
 
@@ -123,7 +141,7 @@ void modGraph::DrawYLabels(const ValueRange& range) {
         const QString text = RoundedText(static_cast<double>(range.lowest) + value);
         surface_->SetCurrentX(originX_ - yLabelDistance - surface_->TextWidth(text));
         surface_->SetCurrentY(originY_ - step * i - surface_->TextHeight(text) / 2);
-        surface_->Print(text);
+        Print(text);
     }
 }
 
@@ -133,7 +151,7 @@ void modGraph::DrawXLabels(int steps) {
         const QString text = RoundedText(static_cast<double>(steps) / xParts * i);
         surface_->SetCurrentY(originY_ + surface_->TextHeight(QStringLiteral("8")) / 2);
         surface_->SetCurrentX(originX_ + step * i - surface_->TextWidth(text) / 2);
-        surface_->Print(text);
+        Print(text);
     }
 }
 
@@ -145,7 +163,7 @@ void modGraph::DrawValues(const std::vector<qint32>& samples, const ValueRange& 
     yScale_ =
         static_cast<float>(static_cast<double>(plotHeight_) / static_cast<double>(range.Extent()));
     for (int i = 0; i < steps_; ++i)
-        surface_->Line(XOf(i), YOf(samples[i]), XOf(i + 1), YOf(samples[i + 1]));
+        Line(XOf(i), YOf(samples[i]), XOf(i + 1), YOf(samples[i + 1]));
 }
 
 int modGraph::YOf(qint32 value) const {

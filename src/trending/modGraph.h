@@ -9,6 +9,9 @@ class DrawingSurface;
 /// The trend graph on a surface: a frame, and upon it a data set with its labels. The frame's
 /// geometry is kept between the two. All lengths are in twips; 32 bits wide, since a window on a
 /// large screen is wider than 16 bits of twips.
+///
+/// Neither raises: what the surface cannot draw is left out, and the rest is drawn all the same. A
+/// printer tells its failure when the document is ended.
 class modGraph {
 public:
     /// Draws the frame: title, axes and dotted grid. The surface is kept for the data and must
@@ -17,7 +20,7 @@ public:
     /// Draws values and labels into the frame that was drawn last; without one it does nothing.
     /// `samples` stand from left to right, `colour` is a palette number. Fewer than two samples
     /// give labels and no line. The lowest range shown is 10, so that a steady signal is not blown
-    /// up. Never raises: what cannot be drawn is left out.
+    /// up.
     void DrawGraphData(const std::vector<qint32>& samples, int colour);
     /// The surface is gone.
     void Forget() { surface_ = nullptr; }
@@ -43,6 +46,9 @@ private:
         qint64 Extent() const { return highest - lowest; }
     };
     static ValueRange RangeOf(const std::vector<qint32>& samples);
+    void Print(const QString& text);
+    void PrintCentred(const QString& text, double top);
+    void Line(double x1, double y1, double x2, double y2);
     void DrawTitles();
     void DrawAxes();
     void DrawDottedGrid();

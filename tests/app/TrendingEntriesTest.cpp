@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMenu>
@@ -81,7 +82,8 @@ TEST_F(TrendingEntries, ExportWritesTheSamplesWithAHead) {
 
 TEST_F(TrendingEntries, ARightClickOpensThePopup) {
     QMenu* menu = Window().Commands().Menu(QStringLiteral("mnuTrendingPopup"));
-    Q_EMIT Samples().customContextMenuRequested(QPoint(5, 5));
+    QContextMenuEvent click(QContextMenuEvent::Mouse, {5, 5}, Samples().mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(Samples().viewport(), &click);
     EXPECT_TRUE(menu->isVisible());
     menu->close();
 }
@@ -100,4 +102,26 @@ TEST_F(TrendingEntries, ACancelledPrinterDialogPrintsNoTable) {
     dialogs_.ExpectPrinterCancelled();
     Trigger("mnuFilePrintStatusTable");
     EXPECT_TRUE(dialogs_.Boxes().empty());
+}
+
+TEST_F(TrendingEntries, AReportThatCannotBeWrittenIsToldOnce) {
+    dialogs_.ExpectPrinter({QString(), SetPath(QStringLiteral("none/trend.pdf")), 1});
+    dialogs_.ExpectBoxTitled(QStringLiteral("Print -Trending"), MsgAnswer::Ok);
+    WhenUp("frmTrendingPrint", [](QWidget& dialog) {
+        ClickButton(dialog, "chkTrendData");
+        ClickButton(dialog, "chkGraph");
+        ClickButton(dialog, "cmdSetup");
+        ClickButton(dialog, "cmdOk");
+    });
+    Trigger("mnuFilePrintTrendData");
+    EXPECT_EQ(dialogs_.Boxes().size(), 1u);
+}
+
+TEST_F(TrendingEntries, ATableThatCannotBePrintedIsToldAndTheFocusGoesToTheGrid) {
+    Press("Status");
+    dialogs_.ExpectPrinter({QStringLiteral("printer that was taken away"), QString(), 1});
+    dialogs_.ExpectBoxTitled(QStringLiteral("Status Table"), MsgAnswer::Ok);
+    Trigger("mnuFilePrintStatusTable");
+    EXPECT_TRUE(dialogs_.Boxes().at(0).text.startsWith(QStringLiteral("Error Number = 68")));
+    EXPECT_EQ(Window().focusWidget(), &Table());
 }

@@ -178,3 +178,17 @@ TEST_F(ViewLoops, AnErrorInAStepDoesNotStillTheLoopsForGood) {
     EXPECT_THROW(alarms.Pass(1), RunTimeError);
     EXPECT_TRUE(TurnUntil([&] { return first.steps >= 3; }));
 }
+
+TEST_F(ViewLoops, APromptHoldsTheLoopsButIsNoWork) {
+    auto prompt = std::make_unique<ViewLoopHold>(ViewLoopHold::For::Prompt);
+    runner.Activate(first);
+    alarms.Pass(3 * ViewLoopRunner::restTime);
+    EXPECT_EQ(first.steps, 0);
+    EXPECT_FALSE(ViewLoopHold::AnyHeldForWork());
+    auto work = std::make_unique<ViewLoopHold>();
+    prompt.reset();
+    EXPECT_TRUE(ViewLoopHold::AnyHeldForWork());
+    work.reset();
+    EXPECT_FALSE(ViewLoopHold::AnyHeldForWork());
+    EXPECT_TRUE(TurnUntil([&] { return first.steps >= 3; }));
+}

@@ -30,11 +30,11 @@ const std::vector<Row> fileRows = {
     {"mnuFileDownloadProgram", "Download PLC P&rogram", "", Enabled},
     {"mnuFileDownloadData", "Download Targetboard Da&ta", "", Enabled},
     {"mnuFileDownloadFile", "Download Data&file", "", Enabled},
-    {"mnuFileDownloadToPLS", "Download to P&LS", "", Disabled},
+    {"mnuFileDownloadToPLS", "Download to P&LS", "", Enabled},
     {"mnuFileSep2", "", "", Enabled},
     {"mnuFileUploadData", "&Upload Targetboard Data", "", Enabled},
     {"mnuFileUploadProgram", "Upload PLC/PLS Pro&gram", "", Enabled},
-    {"mnuFileUploadFromPLS", "Upload from PL&S", "", Disabled},
+    {"mnuFileUploadFromPLS", "Upload from PL&S", "", Enabled},
     {"mnuFileSep3", "", "", Enabled},
     {"mnuFilePrintStatusTable", "Print Status Table", "", Later},
     {"mnuFilePrintResults", "Print Results", "", Later},
@@ -72,9 +72,9 @@ const std::vector<Row> toolsRows = {
     {"mnuToolsPLSProgramming", "&PLS Programming", "Ctrl+L", Disabled},
 };
 const std::vector<Row> helpRows = {
-    {"mnuHelpTopics", "Help &Topics", "Ctrl+H", Disabled},
+    {"mnuHelpTopics", "Help &Topics", "Ctrl+H", Enabled},
     {"", "", "", Enabled},
-    {"mnuHelpAbout", "&About Quentor", "", Disabled},
+    {"mnuHelpAbout", "&About Quentor", "", Enabled},
 };
 const std::vector<Row> trendingPopupRows = {
     {"mnuTrendingPopupOpen", "&Open Trend Sample", "", Enabled},

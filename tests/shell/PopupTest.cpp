@@ -61,13 +61,6 @@ TEST_F(Popup, TakesTheSelectionAsTheSetInUse) {
     EXPECT_EQ(gHdnFile, SetPath("PUMP.hdn"));
 }
 
-TEST_F(Popup, EntriesWithoutTheirViewAreDisabled) {
-    RightClick("CAMS.hdn");
-    ExpectEnabled("mnuFileListPopupDownloadToPLS", false);
-    AddPLSRoute();
-    ExpectEnabled("mnuFileListPopupDownloadToPLS", true);
-}
-
 TEST_F(Popup, TheDeleteKeyRunsDelete) {
     ClickSet("PUMP.hdn");
     int deletes = 0;

@@ -70,7 +70,7 @@ TEST_F(StartUp, TheTimerIsOffUntilTheBrowserIsUp) {
     auto* timer = Find<QTimer>("tmrBackgroungUpdate");
     EXPECT_FALSE(timer->isActive());
     EXPECT_EQ(timer->interval(), 500);
-    application_->Start();
+    RunStartUp();
     EXPECT_TRUE(timer->isActive());
 }
 

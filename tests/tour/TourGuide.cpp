@@ -162,7 +162,7 @@ void TourGuide::TakePicture(const QString& name) {
     const QList<QWidget*> windows = WindowsOnScreen(mainWindow_);
     for (QWidget* window : windows.mid(1)) {
         const QPoint place = window->pos() - mainWindow_.pos();
-        if (window->windowType() == Qt::Popup)
+        if (window->windowType() == Qt::Popup || window->windowFlags() & Qt::FramelessWindowHint)
             painter.drawPixmap(place, window->grab());
         else
             painter.drawPixmap(place - QPoint(0, titleHeight), WithTitle(*window));

@@ -9,6 +9,7 @@
 #include "reports/views/PrinterSurface.h"
 #include "tour/BoardProcess.h"
 #include "tour/DataTransferTour.h"
+#include "tour/HelpTour.h"
 #include "tour/MainJobTour.h"
 #include "tour/ProgramSetTour.h"
 #include "tour/StatusTableTour.h"
@@ -48,15 +49,17 @@ int RunTour(const QString& output) {
     SystemPrinter printer;
     Application application({clock, dialogs, busy, port, folder, drives, ports, tools, printer,
                              [] { QApplication::exit(); }});
-    application.Start();
     TourGuide guide(application.MainWindow(), output);
+    AddSplash(guide);
     AddMainJob(guide, application.MainWindow(), board);
     AddDataTransfers(guide, application.MainWindow(), board, setting);
     AddStatusTable(guide, application.MainWindow(), board, setting);
     AddTrending(guide, application.MainWindow(), board, setting);
     AddTargetBoard(guide, application.MainWindow(), board);
     AddProgramSets(guide, application.MainWindow(), board, setting);
+    AddHelp(guide, application.MainWindow());
     guide.Start();
+    application.Start();
     return QApplication::exec();
 }
 } // namespace

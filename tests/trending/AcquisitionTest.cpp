@@ -302,3 +302,70 @@ TEST_F(Acquisition, OpenedRowsSetTheCounterToTheirNumber) {
     EXPECT_EQ(trend.CounterText(), "1,234");
     EXPECT_EQ(trend.Samples().Rows(), 1235);
 }
+
+TEST_F(Acquisition, TheTimerGoesOnWhileABoxThatIsNotOfTheLinkIsUp) {
+    Watch();
+    Interval(1);
+    const ViewLoopHold box(ViewLoopHold::For::Prompt);
+    TickReading(7, clock.MonotonicSeconds() + 0.1);
+    EXPECT_EQ(Column(2, 1), (QStringList{"7"}));
+}
+
+TEST_F(Acquisition, ACommFailureWhileTheTimerSamplesAddsItsZeroAndKeepsTheRows) {
+    Watch();
+    Interval(1);
+    TickReading(9, clock.MonotonicSeconds() + 0.1);
+    port.Silence();
+    ExpectAlert(NoReplyAlert(), MsgAnswer::Cancel);
+    clock.AdvanceTo(clock.MonotonicSeconds() + 0.1);
+    trend.TimerTick();
+    EXPECT_EQ(Column(2, 2), (QStringList{"0", "9"}));
+    const auto sent = port.Sent().size();
+    clock.AdvanceTo(clock.MonotonicSeconds() + 0.1);
+    trend.TimerTick();
+    EXPECT_EQ(port.Sent().size(), sent);
+    EXPECT_EQ(Column(2, 2), (QStringList{"0", "9"}));
+}
+
+TEST_F(Acquisition, SamplingGoesOnWithItsRowsAndItsTimeWhenTheLinkIsOnlineAgain) {
+    Watch();
+    Continuous();
+    StepReading(1);
+    link.SetOnlineMode(false);
+    clock.Wait(30.0);
+    EXPECT_EQ(trend.TakeStep(), ViewLoop::Step::Rest);
+    link.SetOnlineMode(true);
+    StepReading(2);
+    EXPECT_EQ(Column(2, 2), (QStringList{"2", "1"}));
+    EXPECT_EQ(Column(1, 2), (QStringList{"30", "0"}));
+}
+
+TEST_F(Acquisition, AClockSetBackCountsAsMidnightAndLeavesTheIntervalAlone) {
+    Watch();
+    clock.SetWallClock(QDateTime(QDate(2026, 3, 9), QTime(12, 0)));
+    Interval(3);
+    TickReading(1, clock.MonotonicSeconds() + 1.0);
+    clock.SetWallClock(QDateTime(QDate(2026, 3, 9), QTime(11, 0)));
+    EXPECT_NEAR(trend.TimerMilliseconds().value(), 1000, 5);
+    TickReading(2, clock.MonotonicSeconds() + 1.0);
+    EXPECT_EQ(display.samples, 2);
+    // Seconds of a day of 86399, an hour back and two intervals on.
+    EXPECT_NEAR(trend.Samples().Text(1, 1).toDouble(), 86399 - 3600, 0.1);
+    EXPECT_EQ(trend.Samples().Text(2, 1), "0");
+}
+
+TEST(SampleCounter, WrapsTo0Above999999999) {
+    EXPECT_EQ(CountAfter(0), 1);
+    EXPECT_EQ(CountAfter(999'999'998), 999'999'999);
+    EXPECT_EQ(CountAfter(999'999'999), 0);
+}
+
+TEST_F(Acquisition, ChangeOfStateComparesWithTheLastSampleAlsoAfterAClear) {
+    Watch();
+    StepReading(5);
+    trend.Clear();
+    StepReading(5);
+    EXPECT_EQ(trend.Samples().Text(1, 2), "");
+    StepReading(6);
+    EXPECT_EQ(trend.Samples().Text(1, 2), "6");
+}

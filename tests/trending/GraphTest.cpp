@@ -1,7 +1,9 @@
 #include "trending/modGraph.h"
 
+#include "base/RunTimeError.h"
 #include "reports/FixedMetrics.h"
 #include "support/PrintText.h"
+#include <functional>
 #include <gtest/gtest.h>
 #include <limits>
 #include <QStringList>
@@ -33,6 +35,42 @@ struct GraphUnderTest {
     FixedMetrics metrics;
     Picture picture;
     modGraph graph;
+};
+
+// A sheet on which some things cannot be drawn.
+class TornSheet final : public DrawingSurface {
+public:
+    std::function<bool(int)> fails; // of the statement with this number, from 0
+    int lines = 0;
+    QStringList texts;
+
+protected:
+    double WidthInTwips() const override { return 10000; }
+    double HeightInTwips() const override { return 5705; }
+    double TextWidthInTwips(const QString& text) const override {
+        return metrics_.Width(text, Font());
+    }
+    double TextHeightInTwips(const QString& text) const override {
+        return metrics_.Height(text, Font());
+    }
+    void ClearSheet(bool) override {}
+    void DrawLine(double, double, double, double) override {
+        FailOnce();
+        ++lines;
+    }
+    void DrawTextAt(double, double, const QString& text) override {
+        FailOnce();
+        texts += text;
+    }
+
+private:
+    void FailOnce() {
+        if (fails(statement_++))
+            throw RunTimeError(ErrorNumber::DeviceIOError);
+    }
+
+    FixedMetrics metrics_;
+    int statement_ = 0;
 };
 
 class GraphOfSize : public testing::TestWithParam<std::pair<int, int>> {};
@@ -198,4 +236,29 @@ TEST(Graph, TheSampleUnderAPlaceIsTheNearestOne) {
     EXPECT_EQ(test.graph.SampleAt(9700), 3);
     EXPECT_EQ(test.graph.SampleAt(9701), std::nullopt);
     EXPECT_EQ(test.graph.XOf(1), 3833);
+}
+
+TEST(Graph, WhatCannotBeDrawnIsLeftOutAndTheRestIsDrawn) {
+    TornSheet sheet;
+    // A title, an axis, a label and a line of the data.
+    sheet.fails = [](int statement) {
+        return statement == 1 || statement == 3 || statement == 20 || statement == 37;
+    };
+    modGraph graph;
+    graph.DrawGraphFrame(sheet);
+    EXPECT_EQ(sheet.texts, (QStringList{"Trending Data"}));
+    EXPECT_EQ(sheet.lines, 16);
+    graph.DrawGraphData({0, 100, 50}, PaletteColour::Black);
+    EXPECT_EQ(sheet.texts.mid(1, 5), (QStringList{"0", "40", "60", "80", "100"}));
+    EXPECT_EQ(sheet.lines, 16 + 1);
+}
+
+TEST(Graph, ASheetOnWhichNothingCanBeDrawnRaisesNothing) {
+    TornSheet sheet;
+    sheet.fails = [](int) { return true; };
+    modGraph graph;
+    graph.DrawGraphFrame(sheet);
+    graph.DrawGraphData({1, 2}, PaletteColour::Black);
+    EXPECT_EQ(sheet.lines, 0);
+    EXPECT_TRUE(sheet.texts.isEmpty());
 }

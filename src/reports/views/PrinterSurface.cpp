@@ -62,14 +62,26 @@ double PrinterSurface::TextHeightInTwips(const QString& text) const {
     return metrics_.Height(text, Font());
 }
 
+// What a PDF file in work runs into is the end of the disk.
+int PrinterSurface::WriteError() const {
+    return pdf_.isEmpty() ? ErrorNumber::DeviceIOError : ErrorNumber::DiskFull;
+}
+
+void PrinterSurface::Fail(int error) {
+    failure_ = error;
+    throw RunTimeError(error);
+}
+
 QPainter& PrinterSurface::Painter() {
+    if (failure_ != 0)
+        Fail(failure_);
     if (!painter_.isActive()) {
         if (!printer_.isValid() || !painter_.begin(&printer_))
-            throw RunTimeError(ErrorNumber::DeviceUnavailable);
+            Fail(ErrorNumber::DeviceUnavailable);
         const double scale = printer_.resolution() / twipsPerInch;
         painter_.scale(scale, scale);
     } else if (pageWanted_ && !printer_.newPage()) {
-        throw RunTimeError(ErrorNumber::DeviceIOError);
+        Fail(WriteError());
     }
     pageWanted_ = false;
     return painter_;
@@ -84,8 +96,10 @@ void PrinterSurface::DrawTextAt(double x, double y, const QString& text) {
 }
 
 void PrinterSurface::EndDoc() {
+    if (failure_ != 0)
+        Fail(failure_);
     if (painter_.isActive() && (!painter_.end() || printer_.printerState() == QPrinter::Error))
-        throw RunTimeError(ErrorNumber::DeviceIOError);
+        throw RunTimeError(WriteError());
     if (!pdf_.isEmpty())
         PutPdfInPlace();
 }

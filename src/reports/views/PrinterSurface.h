@@ -8,7 +8,9 @@
 #include <QTemporaryFile>
 
 /// A document on a printer or in a PDF file, black on white. The sheet is the part of the paper
-/// that can be printed on. A PDF file comes into being whole with EndDoc, or not at all.
+/// that can be printed on. A PDF file comes into being whole with EndDoc, or not at all. Drawing
+/// raises 68 when there is no such printer, 57 when it fails and 61 when a PDF file does; after
+/// that nothing more is printed and EndDoc raises the same, whoever swallowed it before.
 class PrinterSurface final : public PagedSurface {
 public:
     PrinterSurface(const PrinterChoice& choice, PaperOrientation orientation);
@@ -28,6 +30,8 @@ protected:
 
 private:
     QPainter& Painter();
+    int WriteError() const;
+    [[noreturn]] void Fail(int error);
     void PutPdfInPlace();
 
     const QString pdf_; // path of the PDF file, empty for a printer
@@ -36,6 +40,7 @@ private:
     QPrinter printer_;
     QPainter painter_;
     bool pageWanted_ = false;
+    int failure_ = 0; // number of the error that the document failed with, 0 while it is whole
 };
 
 /// The printers of the system: the default one until the user chose another. Of several documents

@@ -78,7 +78,7 @@ TrendingForm::TrendingForm(QWidget& view, const modGraph& graph)
 QLayout* TrendingForm::SampleFrame(QWidget& view) {
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("Target &Board:"), cboTargetBoard);
-    form->addRow(QStringLiteral("&Variable:"), cboAddress);
+    form->addRow(QStringLiteral("Var&iable:"), cboAddress);
     form->addRow(optChangeOfState);
     form->addRow(optTimeInterval, cboOptions);
     form->addRow(chkAcquire);

@@ -7,6 +7,7 @@
 #include "session/Globals.h"
 #include "trending/views/GraphView.h"
 #include <algorithm>
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -31,6 +32,7 @@ frmTrending::frmTrending(const Seams& seams, QWidget* parent)
                                 [](int) { return QStringLiteral("Graphing Samples"); }, this)) {
     setObjectName(QStringLiteral("frmTrending"));
     setWindowTitle(QStringLiteral("Trend Data"));
+    tmrTrending_.setObjectName(QStringLiteral("tmrTrending"));
     tmrTrending_.setSingleShot(true);
     tmrTrending_.setTimerType(Qt::PreciseTimer);
     showSamples_.setSingleShot(true);
@@ -97,6 +99,10 @@ void frmTrending::Activate() {
     seams_.host.ShowTrendCommands(true);
     gPrintContext = PrintContext::Trending;
     seams_.loops.Activate(*this);
+    if (!viewRunning_) {
+        viewRunning_ = true;
+        TimerChanged();
+    }
 }
 
 void frmTrending::Deactivate() {
@@ -105,6 +111,8 @@ void frmTrending::Deactivate() {
 
 void frmTrending::closeEvent(QCloseEvent* event) {
     seams_.loops.Leave(*this);
+    viewRunning_ = false;
+    TimerChanged();
     seams_.host.ShowTrendCommands(false);
     QWidget::closeEvent(event);
 }
@@ -130,7 +138,8 @@ ViewLoop::Step frmTrending::TakeStep() {
 
 void frmTrending::TimerChanged() {
     tmrTrending_.stop();
-    if (const auto milliseconds = acquisition_.TimerMilliseconds())
+    const auto milliseconds = acquisition_.TimerMilliseconds();
+    if (viewRunning_ && milliseconds)
         tmrTrending_.start(*milliseconds);
 }
 
@@ -162,27 +171,46 @@ bool frmTrending::eventFilter(QObject* watched, QEvent* event) {
     }
     // The first entry is in use already, and "(none)" must not hold the user fast.
     if (event->type() == QEvent::FocusOut && form_.cboAddress->isVisible() &&
-        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason &&
-        static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason &&
+        IsWithinProgram(*static_cast<QFocusEvent*>(event)) &&
         form_.cboAddress->currentText() != acquisition_.Variable().FirstEntry())
-        QMetaObject::invokeMethod(this, &frmTrending::EnterAddress, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &frmTrending::LeaveAddress, Qt::QueuedConnection);
     return false;
+}
+
+// A button that the mouse holds down would forget its click when the focus leaves it: the focus
+// goes on once the button is released.
+void frmTrending::LeaveAddress() {
+    auto* pressed = qobject_cast<QAbstractButton*>(focusWidget());
+    const bool held = pressed && pressed->isDown();
+    const auto outcome = acquisition_.Variable().Enter(form_.cboAddress->currentText());
+    if (!held || outcome == TrendVariable::Entered::Refused) {
+        TakeAddress(outcome);
+        return;
+    }
+    ShowAddresses();
+    connect(
+        pressed, &QAbstractButton::released, form_.cmdDefault,
+        [this] { form_.cmdDefault->setFocus(); }, Qt::SingleShotConnection);
 }
 
 void frmTrending::EnterAddress() {
     TakeAddress(acquisition_.Variable().Enter(form_.cboAddress->currentText()));
 }
 
-void frmTrending::TakeAddress(TrendVariable::Entered outcome) {
+void frmTrending::ShowAddresses() {
     const QSignalBlocker quiet(form_.cboAddress);
     form_.cboAddress->clear();
     form_.cboAddress->addItems(acquisition_.Variable().List());
     form_.cboAddress->setCurrentIndex(0);
+    seams_.loops.Wake();
+}
+
+void frmTrending::TakeAddress(TrendVariable::Entered outcome) {
+    ShowAddresses();
     if (outcome == TrendVariable::Entered::Taken)
         form_.cmdDefault->setFocus();
     else
         form_.cboAddress->setFocus();
-    seams_.loops.Wake();
 }
 
 void frmTrending::GiveUpAddress() {
@@ -217,7 +245,7 @@ void frmTrending::RowsChanged() {
     for (int row = 0; row < samples.Rows(); ++row)
         for (int column = row == 0 ? 0 : 1; column < TrendSamples::columns; ++column)
             form_.fgTrend->SetTextMatrix(row, column, samples.Text(row, column));
-    Renumber();
+    SizeGrid();
 }
 
 void frmTrending::Renumber() {
@@ -231,9 +259,15 @@ void frmTrending::CounterChanged() {
         form_.lblSamples->setText(acquisition_.CounterText());
 }
 
+// The numbers have their width, which a file of many rows makes larger; time and value share the
+// rest.
 void frmTrending::SizeGrid() {
-    const int digit = form_.fgTrend->fontMetrics().horizontalAdvance(u'0');
-    form_.fgTrend->ShareWidth({1, 4, 4}, {5 * digit, 10 * digit, 12 * digit});
+    constexpr int numberWidth = 500 / 15; // pixels of 15 twips
+    const QFontMetrics& metrics = form_.fgTrend->fontMetrics();
+    const int digit = metrics.horizontalAdvance(u'0');
+    const int digits = static_cast<int>(QString::number(acquisition_.Samples().Rows()).size());
+    form_.fgTrend->ShareWidth(
+        {0, 1, 1}, {std::max(numberWidth, (digits + 1) * digit), 10 * digit, 12 * digit});
     Renumber();
 }
 

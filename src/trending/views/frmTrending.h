@@ -50,7 +50,8 @@ public:
 
     /// The view has become the main window's active child.
     void Activate();
-    /// Another child is active now. Sampling goes on.
+    /// Another child is active now. Sampling by interval goes on, also behind other windows; it
+    /// stops when the view is closed and goes on when it is activated again.
     void Deactivate();
 
     // Commands, by menu.
@@ -82,6 +83,8 @@ private:
     void Tick();
     void SelectOption();
     void EnterAddress();
+    void LeaveAddress();
+    void ShowAddresses();
     void TakeAddress(TrendVariable::Entered outcome);
     void GiveUpAddress();
     void DrawFrame();
@@ -100,9 +103,10 @@ private:
     TrendAcquisition acquisition_;
     TrendingForm form_;
     NumericEntries* entries_;
-    QTimer tmrTrending_;
+    QTimer tmrTrending_{this};
     QTimer showSamples_; ///< gathers samples that come fast
     int samplesToGraph_ = mostSamplesToGraph;
+    bool viewRunning_ = false; ///< from activation until the view is closed
     bool graphRequested_ = false;
     bool graphDrawn_ = false; ///< the axes have been drawn once
     bool firstPass_ = true;

@@ -59,7 +59,8 @@ void frmTrendingPrint::ShowPrinterName() {
 }
 
 void frmTrendingPrint::ClickOk() {
-    if (printer_.DeviceName().isEmpty() && !ChoosePrinter())
+    const bool anything = chkTrendData_->isChecked() || chkGraph_->isChecked();
+    if (anything && printer_.DeviceName().isEmpty() && !ChoosePrinter())
         return;
     try {
         if (chkTrendData_->isChecked())

@@ -4,10 +4,14 @@
 #include "reports/modReport.h"
 #include "reports/views/PrinterSurface.h"
 #include "support/ExpectError.h"
+#include "support/FileSizeLimit.h"
+#include "support/OrdinaryUser.h"
 #include "support/PrintText.h"
 #include "support/VirtualClock.h"
 #include <gtest/gtest.h>
+#include <QDir>
 #include <QFile>
+#include <QPrinterInfo>
 #include <QTemporaryDir>
 
 namespace {
@@ -118,4 +122,62 @@ TEST_F(PdfReport, FurtherDocumentsStandBesideTheFirst) {
         EXPECT_EQ(ReadPdf(folder.filePath(QLatin1String(beside))).size(), 1u) << beside;
     }
     EXPECT_EQ(ReadPdf(Path()).size(), pages);
+}
+
+TEST_F(PdfReport, AFullDiskRaisesAnErrorAndLeavesTheOldFileAlone) {
+    const std::size_t pages = Print(5).size();
+    printer.UsePrinter({QString(), Path(), 1});
+    ExpectError(ErrorNumber::DiskFull, [&] {
+        const FileSizeLimit full(4096);
+        PrintReport(printer, NamedCells(2000), clock, QStringLiteral("press"), ReportKind::Trend);
+    });
+    EXPECT_EQ(ReadPdf(Path()).size(), pages);
+}
+
+TEST_F(PdfReport, AFolderInThePlaceOfTheFileRaisesAnErrorAndStays) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("report.pdf")));
+    printer.UsePrinter({QString(), Path(), 1});
+    ExpectError(ErrorNumber::PathFileAccess, [&] {
+        PrintReport(printer, NamedCells(5), clock, QStringLiteral("press"), ReportKind::Trend);
+    });
+    EXPECT_TRUE(QFileInfo(Path()).isDir());
+}
+
+TEST_F(PdfReport, AFolderThatMayNotBeWrittenRaisesAnError) {
+    constexpr auto look = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), look));
+    printer.UsePrinter({QString(), Path(), 1});
+    {
+        const OrdinaryUser user;
+        if (!user.Possible())
+            GTEST_SKIP() << "root cannot take the rights of an ordinary user here";
+        ExpectError(ErrorNumber::PathFileAccess, [&] {
+            PrintReport(printer, NamedCells(5), clock, QStringLiteral("press"), ReportKind::Trend);
+        });
+    }
+    QFile::setPermissions(folder.path(), look | QFile::WriteOwner);
+    EXPECT_FALSE(QFileInfo::exists(Path()));
+}
+
+TEST_F(PdfReport, APrinterThatIsNotThereRaisesAnErrorAndPrintsNowhereElse) {
+    printer.UsePrinter({QStringLiteral("printer that was taken away"), QString(), 1});
+    ExpectError(ErrorNumber::DeviceUnavailable, [&] {
+        PrintReport(printer, NamedCells(5), clock, QStringLiteral("press"), ReportKind::Trend);
+    });
+}
+
+TEST_F(PdfReport, WithoutAnyPrinterADocumentRaisesAnError) {
+    if (!QPrinterInfo::defaultPrinterName().isEmpty())
+        GTEST_SKIP() << "this computer has a printer";
+    EXPECT_EQ(printer.DeviceName(), QString());
+    ExpectError(ErrorNumber::DeviceUnavailable, [&] {
+        PrintReport(printer, NamedCells(5), clock, QStringLiteral("press"), ReportKind::Trend);
+    });
+}
+
+TEST_F(PdfReport, AFailureThatWasSwallowedIsToldAtTheEndOfTheDocument) {
+    printer.UsePrinter({QStringLiteral("printer that was taken away"), QString(), 1});
+    const auto document = printer.OpenDocument(PaperOrientation::Landscape);
+    ExpectError(ErrorNumber::DeviceUnavailable, [&] { document->Line(0, 0, 100, 100); });
+    ExpectError(ErrorNumber::DeviceUnavailable, [&] { document->EndDoc(); });
 }

@@ -3,6 +3,7 @@
 #include "session/Globals.h"
 #include "shell/frmMain.h"
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -78,8 +79,19 @@ void WholeWindow::Start() {
     application_ =
         std::make_unique<Application>(Platform{clock_, dialogs_, busy_, port_, *folder_, drives_,
                                                ports_, tools_, printer_, [this] { ++ended_; }});
-    application_->Start();
+    RunStartUp();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
+}
+
+void WholeWindow::RunStartUp() {
+    QTimer hand;
+    QObject::connect(&hand, &QTimer::timeout, &hand, [] {
+        QWidget* view = QApplication::activeModalWidget();
+        if (view && view->objectName() == QLatin1String("frmSplash"))
+            QTest::keyClick(view, Qt::Key_Space);
+    });
+    hand.start(0);
+    application_->Start();
 }
 
 void WholeWindow::Stop() {

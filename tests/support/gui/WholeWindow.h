@@ -42,6 +42,9 @@ protected:
 
     /// Builds the application and runs its start-up.
     void Start();
+    /// Runs the start-up of the application that is built, with a hand that presses a key at the
+    /// splash.
+    void RunStartUp();
     /// Ends the application; Start may follow.
     void Stop();
 
