@@ -29,11 +29,8 @@ bool ViewLoopHold::AnyHeldForWork() {
     return holdsForWork > 0;
 }
 
-ViewLoopRunner::ViewLoopRunner(ModalTest blockedByModal, QObject* parent)
-    : QObject(parent), blockedByModal_(std::move(blockedByModal)), timer_(this) {
-    timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, &ViewLoopRunner::Turn);
-}
+ViewLoopRunner::ViewLoopRunner(ModalTest blockedByModal, Alarms& alarms)
+    : blockedByModal_(std::move(blockedByModal)), nextTurn_(alarms.Make([this] { Turn(); })) {}
 
 void ViewLoopRunner::Activate(ViewLoop& loop) {
     Leave(loop);
@@ -44,7 +41,7 @@ void ViewLoopRunner::Activate(ViewLoop& loop) {
 void ViewLoopRunner::Leave(ViewLoop& loop) {
     loops_.erase(std::remove(loops_.begin(), loops_.end(), &loop), loops_.end());
     if (loops_.empty())
-        timer_.stop();
+        nextTurn_->Stop();
 }
 
 void ViewLoopRunner::Wake() {
@@ -80,5 +77,5 @@ ViewLoop::Step ViewLoopRunner::StepOf(ViewLoop& loop) {
 }
 
 void ViewLoopRunner::Schedule(int milliseconds) {
-    timer_.start(milliseconds);
+    nextTurn_->Set(milliseconds);
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "base/Alarms.h"
 #include <functional>
+#include <memory>
 #include <QObject>
-#include <QTimer>
 #include <vector>
 
 /// The running loop of a view, cut into steps: one row, one panel, one address. A step may read
@@ -52,7 +53,8 @@ public:
     /// Whether a modal window other than the view of the loop is up.
     using ModalTest = std::function<bool(const ViewLoop&)>;
 
-    explicit ViewLoopRunner(ModalTest blockedByModal, QObject* parent = nullptr);
+    /// `alarms` time the turns; they must outlive the runner.
+    explicit ViewLoopRunner(ModalTest blockedByModal, Alarms& alarms = Alarms::System());
 
     /// The loop gets the steps from now on, until another is activated or it leaves.
     void Activate(ViewLoop& loop);
@@ -70,7 +72,7 @@ private:
 
     ModalTest blockedByModal_;
     std::vector<ViewLoop*> loops_; // the last one is current
-    QTimer timer_;
+    std::unique_ptr<Alarm> nextTurn_;
     bool inStep_ = false;
     bool woken_ = false; // since the last step began
 };

@@ -44,7 +44,7 @@ void DataTransferCommand::StartDataTransfer(qint16 Action, bool BypassOpen) {
         try {
             TransferSelected(Action);
         } catch (const RunTimeError& error) {
-            ShowErrorBox(dialogs_, error, QStringLiteral("Data Transfer"), MsgStyle::Critical);
+            ShowErrorBox(dialogs_, error, QStringLiteral("TransferData"), MsgStyle::Critical);
         }
     }
     programs_.RefreshAfterTransfer();

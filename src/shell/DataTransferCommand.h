@@ -24,7 +24,7 @@ public:
                         std::function<void()> plsRoute);
 
     /// Selects the set unless `BypassOpen`, asks, goes online and shows frmDataXfr. The background
-    /// update stands still meanwhile. Errors are shown, titled "Data Transfer".
+    /// update stands still meanwhile. Errors are shown, titled "TransferData".
     void StartDataTransfer(qint16 Action, bool BypassOpen);
 
 private:

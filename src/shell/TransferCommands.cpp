@@ -11,6 +11,7 @@
 #include "shell/ModalViews.h"
 #include "shell/ProgramBrowser.h"
 #include "shell/ProgramCommands.h"
+#include <QScopeGuard>
 
 namespace {
 constexpr qint16 uploadMode = 1; // of frmNewFile and of frmDownloadProg
@@ -37,14 +38,15 @@ void TransferCommands::RefreshBrowser() {
 }
 
 void TransferCommands::mnuFileUploadProgram_Click() {
+    const auto ended = qScopeGuard([this] { context_.link.SetInUploadMode(false); });
     try {
         context_.views.frmNewFile(uploadMode);
         if (context_.link.InUploadMode())
             UploadNamedProgram();
     } catch (const RunTimeError& error) {
         ShowErrorBox(context_.dialogs, error, QStringLiteral("Upload Program"), MsgStyle::Critical);
+        RefreshBrowser(); // the set that was named stands on the disk already
     }
-    context_.link.SetInUploadMode(false);
 }
 
 void TransferCommands::UploadNamedProgram() {

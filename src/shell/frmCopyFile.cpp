@@ -60,7 +60,7 @@ void frmCopyFile::BuildForm() {
     lblCopyStatus_->setSizePolicy(keepsItsPlace);
     lblCopyStatus_->hide();
 
-    cmdCopy_ = Button(QStringLiteral("cmdCopy"), tr("C&opy"));
+    cmdCopy_ = Button(QStringLiteral("cmdCopy"), tr("Co&py"));
     cmdCopy_->setDefault(true);
     connect(cmdCopy_, &QPushButton::clicked, this, &frmCopyFile::cmdCopy_Click);
     cmdCancel_ = Button(QStringLiteral("cmdCancel"), tr("&Cancel"));
@@ -129,10 +129,17 @@ void frmCopyFile::Show(const End& end, const QString& path) {
     end.name->setText(context_.files.GetFileName(path));
 }
 
+// Starts at the file, or in its folder as long as the file is not there; in the folder of the
+// browser before there is either.
+FileDialogRequest frmCopyFile::DialogFrom(const QString& path) const {
+    const QString folder = context_.files.GetParentFolderName(path);
+    const bool hasFolder = context_.files.FolderExists(folder);
+    return ProgramFileDialog(context_.files, path, hasFolder ? folder : context_.browser.Folder());
+}
+
 void frmCopyFile::cmdBrowseSource_Click() {
     try {
-        const QString path =
-            context_.dialogs.ShowOpen(ProgramFileDialog(context_.files, lastSource_));
+        const QString path = context_.dialogs.ShowOpen(DialogFrom(lastSource_));
         lastSource_ = path;
         Show(source_, path);
     } catch (const RunTimeError& error) {
@@ -143,8 +150,7 @@ void frmCopyFile::cmdBrowseSource_Click() {
 // A save dialog, because the copy need not exist yet; whether one is replaced is asked later.
 void frmCopyFile::cmdDestination_Click() {
     try {
-        const QString path =
-            context_.dialogs.ShowSave(ProgramFileDialog(context_.files, lastDestination_));
+        const QString path = context_.dialogs.ShowSave(DialogFrom(lastDestination_));
         lastDestination_ = path;
         Show(destination_, path);
     } catch (const RunTimeError& error) {

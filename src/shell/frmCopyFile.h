@@ -4,6 +4,7 @@
 #include "shell/SetFiles.h"
 #include <QDialog>
 
+struct FileDialogRequest;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -43,6 +44,7 @@ private:
     void ShowIdle();
     void RefreshBrowser();
     void Show(const End& end, const QString& path);
+    FileDialogRequest DialogFrom(const QString& path) const;
     CopyProgramSet::Request Filled() const;
 
     SetFiles context_;

@@ -95,6 +95,7 @@ private:
     // frmMDIMainCommands.cpp
     void mnuFileExit_Click();
     void mnuFileListPopupOpen_Click();
+    void mnuFileListPopupDelete_Click();
     void filFileList_DblClick();
     void Toolbar1_ButtonClick(const ToolbarEntry& button);
     void sbrMain_PanelDblClick(int panel);

@@ -22,6 +22,13 @@ void frmMDIMain::mnuFileListPopupOpen_Click() {
     surface_->Run(QStringLiteral("mnuFileListPopupOpen"));
 }
 
+// The key means the set that is marked in the list, as the popup does: a command may have left
+// another one in gHdnFile since.
+void frmMDIMain::mnuFileListPopupDelete_Click() {
+    gHdnFile = SelectedProgramPath();
+    surface_->Run(QStringLiteral("mnuFileListPopupDelete"));
+}
+
 void frmMDIMain::filFileList_DblClick() {
     gHdnFile = SelectedProgramPath();
     programs_->SpawnRequest(openForEditing, true);

@@ -47,8 +47,7 @@ void frmMDIMain::ConnectBrowser() {
     connect(browser_, &frmMain::PopupRequested, this, &frmMDIMain::PopUpFileList);
     connect(browser_, &frmMain::OpenRequested, this, &frmMDIMain::mnuFileListPopupOpen_Click);
     connect(browser_, &frmMain::FileDoubleClicked, this, &frmMDIMain::filFileList_DblClick);
-    connect(browser_, &frmMain::DeleteRequested, this,
-            [this] { surface_->Run(QStringLiteral("mnuFileListPopupDelete")); });
+    connect(browser_, &frmMain::DeleteRequested, this, &frmMDIMain::mnuFileListPopupDelete_Click);
     connect(children_, &MdiChildren::ActiveChanged, this, &frmMDIMain::RefreshCommandState);
     connect(children_, &MdiChildren::AreaResized, this, &frmMDIMain::MDIForm_Resize);
     connect(surface_, &CommandSurface::HandlersChanged, this, &frmMDIMain::RefreshCommandState);

@@ -27,11 +27,19 @@ protected:
         ExpectShown(value);
     }
     void ExpectShown(int value) {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Cell(2, decimal) == QString::number(value); }))
-            << "shown: " << Cell(2, decimal).toStdString();
+        for (int turn = 0; Cell(2, decimal) != QString::number(value) && turn < 1000; ++turn)
+            Turn();
+        EXPECT_EQ(Cell(2, decimal), QString::number(value));
     }
-    // As long as the resting loops take to look again, and more.
-    static void LetTimePass() { QTest::qWait(3 * ViewLoopRunner::restTime); }
+    // The loops look whether they may have a step, as they do after a rest.
+    void Turn() {
+        application_->Loops().Wake();
+        QCoreApplication::processEvents();
+    }
+    void LetLoopsLookAgain() {
+        for (int turn = 0; turn < 20; ++turn)
+            Turn();
+    }
     static QString Label(QWidget& view, const char* name) {
         return view.findChild<QLabel*>(QLatin1String(name))->text();
     }
@@ -57,7 +65,7 @@ TEST_F(LineOrder, TheTargetBoardViewTakesTheStepsAndGivesThemBack) {
         "frmTargetBoard",
         [&](QWidget& view) {
             fault = Label(view, "lblTargetBoard(0)");
-            LetTimePass();
+            LetLoopsLookAgain();
             shownBehind = Cell(2, decimal);
             address1 = view.findChild<QLineEdit*>(QStringLiteral("txtSetup(0)"))->text();
             ClickButton(view, "cmdOk");
@@ -99,10 +107,10 @@ TEST_F(LineOrder, NoStepIsGivenWhileAModalBoxIsUp) {
     QDialog box(&Window());
     box.setModal(true);
     box.show();
-    LetTimePass();
+    LetLoopsLookAgain();
     port_.ForgetSent();
     Fill(address, 1, 18);
-    LetTimePass();
+    LetLoopsLookAgain();
     EXPECT_TRUE(port_.Sent().empty());
     EXPECT_EQ(Cell(2, decimal), QStringLiteral("17"));
     box.close();

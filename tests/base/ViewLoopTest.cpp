@@ -2,13 +2,11 @@
 
 #include "base/DoEvents.h"
 #include "base/RunTimeError.h"
+#include "support/VirtualAlarms.h"
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QEventLoop>
-#include <QTimerEvent>
 
 namespace {
 class CountedLoop final : public ViewLoop {
@@ -26,23 +24,18 @@ public:
 
 class ViewLoops : public testing::Test {
 protected:
-    // Turns the event loop until the test says so; false when that takes ten seconds.
-    static bool TurnUntil(const std::function<bool()>& done) {
-        QElapsedTimer time;
-        time.start();
-        while (!done() && time.elapsed() < 10000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    // Lets time pass until the test says so; false when that takes ten seconds of it.
+    bool TurnUntil(const std::function<bool()>& done) {
+        for (int passed = 0; !done() && passed < 10000; ++passed)
+            alarms.Pass(1);
         return done();
-    }
-    static void TurnFor(int milliseconds) {
-        QEventLoop events;
-        QTimer::singleShot(milliseconds, &events, &QEventLoop::quit);
-        events.exec();
     }
 
     bool blocked = false;
     CountedLoop first, second;
-    ViewLoopRunner runner{[this](const ViewLoop&) { return blocked; }};
+    VirtualClock clock;
+    VirtualAlarms alarms{clock};
+    ViewLoopRunner runner{[this](const ViewLoop&) { return blocked; }, alarms};
 };
 } // namespace
 
@@ -84,7 +77,7 @@ TEST_F(ViewLoops, TheLastOneMayLeaveInsideItsOwnStep) {
     runner.Activate(first);
     first.onStep = [&] { runner.Leave(first); };
     EXPECT_TRUE(TurnUntil([&] { return first.steps >= 1; }));
-    TurnFor(20);
+    alarms.Pass(3 * ViewLoopRunner::restTime);
     EXPECT_EQ(first.steps, 1);
     EXPECT_EQ(runner.Current(), nullptr);
 }
@@ -93,12 +86,13 @@ TEST_F(ViewLoops, LeavingWithoutHavingBeenActivatedIsHarmless) {
     runner.Leave(first);
     runner.Wake();
     EXPECT_EQ(runner.Current(), nullptr);
-    TurnFor(5);
+    alarms.Pass(3 * ViewLoopRunner::restTime);
     EXPECT_EQ(first.steps, 0);
 }
 
 TEST_F(ViewLoops, OneTurnOfTheEventLoopGivesOneStep) {
-    runner.Activate(first);
+    ViewLoopRunner inRealTurns{[](const ViewLoop&) { return false; }};
+    inRealTurns.Activate(first);
     int turns = 0;
     first.onStep = [&] { EXPECT_LE(first.steps, turns + 1); };
     while (first.steps < 10 && turns < 1000) {
@@ -113,10 +107,10 @@ TEST_F(ViewLoops, AHoldKeepsAllLoopsStillAndHoldsNest) {
     auto outer = std::make_unique<ViewLoopHold>();
     auto inner = std::make_unique<ViewLoopHold>();
     runner.Activate(first);
-    TurnFor(20);
+    alarms.Pass(3 * ViewLoopRunner::restTime);
     inner.reset();
     EXPECT_TRUE(ViewLoopHold::AnyHeld());
-    TurnFor(20);
+    alarms.Pass(3 * ViewLoopRunner::restTime);
     EXPECT_EQ(first.steps, 0);
     outer.reset();
     EXPECT_FALSE(ViewLoopHold::AnyHeld());
@@ -126,7 +120,7 @@ TEST_F(ViewLoops, AHoldKeepsAllLoopsStillAndHoldsNest) {
 TEST_F(ViewLoops, AModalWindowKeepsTheLoopStill) {
     blocked = true;
     runner.Activate(first);
-    TurnFor(20);
+    alarms.Pass(3 * ViewLoopRunner::restTime);
     EXPECT_EQ(first.steps, 0);
     blocked = false;
     EXPECT_TRUE(TurnUntil([&] { return first.steps >= 3; }));
@@ -136,10 +130,10 @@ TEST_F(ViewLoops, ALoopWithNothingToDoRests) {
     first.rests = true;
     runner.Activate(first);
     EXPECT_TRUE(TurnUntil([&] { return first.steps == 1; }));
-    QElapsedTimer time;
-    time.start();
-    EXPECT_TRUE(TurnUntil([&] { return first.steps == 2; }));
-    EXPECT_GE(time.elapsed(), ViewLoopRunner::restTime / 2) << "it rested, and did not spin";
+    alarms.Pass(ViewLoopRunner::restTime - 1);
+    EXPECT_EQ(first.steps, 1) << "it rests, and does not spin";
+    alarms.Pass(1);
+    EXPECT_EQ(first.steps, 2);
 }
 
 TEST_F(ViewLoops, WakeEndsARest) {
@@ -147,8 +141,7 @@ TEST_F(ViewLoops, WakeEndsARest) {
     runner.Activate(first);
     EXPECT_TRUE(TurnUntil([&] { return first.steps == 1; }));
     runner.Wake();
-    for (int turn = 0; turn < 5; ++turn)
-        QCoreApplication::processEvents();
+    alarms.Pass(1);
     EXPECT_EQ(first.steps, 2);
 }
 
@@ -159,8 +152,7 @@ TEST_F(ViewLoops, AWakeDuringAStepIsNotLostInTheRestAfterIt) {
             runner.Wake();
     };
     runner.Activate(first);
-    for (int turn = 0; turn < 5; ++turn)
-        QCoreApplication::processEvents();
+    alarms.Pass(5);
     EXPECT_EQ(first.steps, 2);
 }
 
@@ -168,7 +160,7 @@ TEST_F(ViewLoops, AStepThatTurnsTheEventLoopIsNotEnteredAgain) {
     int depth = 0;
     first.onStep = [&] {
         EXPECT_EQ(++depth, 1);
-        TurnFor(10);
+        alarms.Pass(3 * ViewLoopRunner::restTime);
         --depth;
     };
     runner.Activate(first);
@@ -183,19 +175,14 @@ TEST_F(ViewLoops, AnErrorInAStepDoesNotStillTheLoopsForGood) {
             throw RunTimeError(ErrorNumber::Overflow);
     };
     runner.Activate(first);
-    // The timer fires by hand: no error may pass through the event loop.
-    QTimer* timer = runner.findChild<QTimer*>();
-    ASSERT_NE(timer, nullptr);
-    QTimerEvent fire(timer->timerId());
-    QObject& receiver = *timer;
-    EXPECT_THROW(receiver.event(&fire), RunTimeError);
+    EXPECT_THROW(alarms.Pass(1), RunTimeError);
     EXPECT_TRUE(TurnUntil([&] { return first.steps >= 3; }));
 }
 
 TEST_F(ViewLoops, APromptHoldsTheLoopsButIsNoWork) {
     auto prompt = std::make_unique<ViewLoopHold>(ViewLoopHold::For::Prompt);
     runner.Activate(first);
-    TurnFor(20);
+    alarms.Pass(3 * ViewLoopRunner::restTime);
     EXPECT_EQ(first.steps, 0);
     EXPECT_FALSE(ViewLoopHold::AnyHeldForWork());
     auto work = std::make_unique<ViewLoopHold>();

@@ -188,7 +188,10 @@ TEST_F(Commands, AnEmptyRecentEntrySelectsNothingNew) {
     WriteRecentList({SetPath("PUMP.hdn").toUtf8(), "", ""});
     Start();
     EXPECT_TRUE(Entry("mnuFileList(1)")->isVisible());
+    const int listed = Window().Browser().ListCount();
+    WriteSetFile("LATER.hdn", "D\r\n");
     Entry("mnuFileList(1)")->trigger();
+    EXPECT_EQ(Window().Browser().ListCount(), listed + 1) << "the browser is refreshed";
     EXPECT_EQ(QFileInfo(gHdnFile), QFileInfo(SetPath("PUMP.hdn")));
     EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [PUMP]");
 }

@@ -91,6 +91,21 @@ TEST_F(CopyFile, TakesEveryFileOfTheSetAndShowsTheCopy) {
     EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [PUMP]");
 }
 
+TEST_F(CopyFile, NoTwoButtonsShareAKeyBeforeOrAfterACopy) {
+    const auto keys = [](const QWidget& view) {
+        QStringList shortcuts;
+        for (const QPushButton* button : view.findChildren<QPushButton*>())
+            shortcuts.append(button->shortcut().toString());
+        return shortcuts;
+    };
+    Copy([&](QWidget& view) {
+        EXPECT_EQ(keys(view).removeDuplicates(), 0);
+        CopyTo(view, "BELT.hdn");
+        EXPECT_TRUE(keys(view).contains("Alt+O"));
+        EXPECT_EQ(keys(view).removeDuplicates(), 0) << keys(view).join(u' ').toStdString();
+    });
+}
+
 TEST_F(CopyFile, DestinationOfEightLettersGivesTheShortNameBox) {
     ExpectShortNameBox();
     Copy([&](QWidget& view) { CopyTo(view, "EIGHTLET.hdn"); });
@@ -179,6 +194,33 @@ TEST_F(CopyFile, BrowseFillsTheSource) {
     EXPECT_EQ(request.filter.toStdString(), "Halden Files(*.hdn)|*.hdn|");
     EXPECT_EQ(request.filterIndex, 1);
     EXPECT_EQ(request.fileName, Window().SelectedProgramPath());
+}
+
+TEST_F(CopyFile, TheDestinationDialogStartsInTheFolderOfTheNewName) {
+    dialogs_.ExpectSave(Other("BELT.hdn"));
+    dialogs_.ExpectSave(QString());
+    Copy([&](QWidget& view) {
+        Click(view, "cmdDestination");
+        Click(view, "cmdDestination");
+    });
+    ASSERT_EQ(dialogs_.FileRequests().size(), 2U);
+    EXPECT_EQ(dialogs_.FileRequests()[0].fileName, SetPath("PUMP.hdn"));
+    EXPECT_EQ(dialogs_.FileRequests()[1].fileName.toStdString(), " ");
+    EXPECT_EQ(dialogs_.FileRequests()[1].initDir, root_.filePath("other"));
+}
+
+TEST_F(CopyFile, WithoutASelectionTheDialogsStartInTheBrowsersFolder) {
+    Window().Browser().dirDirList_Change();
+    QDir::setCurrent(root_.path());
+    dialogs_.ExpectOpen(QString());
+    dialogs_.ExpectSave(QString());
+    Copy([&](QWidget& view) {
+        Click(view, "cmdBrowseSource");
+        Click(view, "cmdDestination");
+    });
+    ASSERT_EQ(dialogs_.FileRequests().size(), 2U);
+    for (const FileDialogRequest& request : dialogs_.FileRequests())
+        EXPECT_EQ(request.initDir, Window().Browser().Folder());
 }
 
 TEST_F(CopyFile, CancelledFileDialogChangesNothing) {

@@ -1,4 +1,5 @@
 #include "base/Dialogs.h"
+#include "base/RunTimeError.h"
 #include "session/Globals.h"
 #include "support/gui/WholeWindow.h"
 #include <QAction>
@@ -104,5 +105,14 @@ TEST_F(DataTransferCommands, WithoutALinkTheDialogDoesNotCome) {
     dialogs_.ExpectBoxTitled("Comm Port Error", MsgAnswer::Cancel);
     Press("Download");
     EXPECT_TRUE(shown_.empty());
+    ExpectRefreshed();
+}
+
+TEST_F(DataTransferCommands, AnErrorIsReportedUnderItsTitleAndTheEndIsTheSame) {
+    ClickSet("PUMP.hdn");
+    Window().Views().frmDataXfr = [] { throw RunTimeError(ErrorNumber::Overflow); };
+    ExpectQuestion(uploadText, "Data Upload [PUMP]", MsgAnswer::Yes);
+    dialogs_.ExpectBox("Error Number = 6\r\n\r\nOverflow", 16, "TransferData", MsgAnswer::Ok);
+    Press("Upload");
     ExpectRefreshed();
 }

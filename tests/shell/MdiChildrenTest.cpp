@@ -112,7 +112,7 @@ TEST_F(Children, AResizeReachesTheBrowserAndVisibleViewsOnly) {
     Window().Children().Hide("frmTrending");
     const int before = View("frmViewResults")->resized;
     Window().resize(900, 600);
-    QTest::qWait(0);
+    QCoreApplication::processEvents();
     EXPECT_GT(View("frmViewResults")->resized, before);
     EXPECT_EQ(View("frmTrending")->resized, 0);
     const QWidget* frame = Window().Browser().parentWidget();
@@ -128,7 +128,7 @@ TEST_F(Children, BeforeTheFirstActivationAResizeReachesNobody) {
 
 TEST_F(Children, AViewOpensBesideTheListsOfTheBrowser) {
     Window().resize(1280, 800);
-    QTest::qWait(0);
+    QCoreApplication::processEvents();
     Window().Children().Show("frmViewResults");
     const QRect view(Frame("frmViewResults")->mapTo(&Window(), QPoint(0, 0)),
                      Frame("frmViewResults")->size());

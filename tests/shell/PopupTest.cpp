@@ -69,6 +69,15 @@ TEST_F(Popup, TheDeleteKeyRunsDelete) {
     EXPECT_EQ(deletes, 1);
 }
 
+TEST_F(Popup, TheDeleteKeyMeansTheMarkedSetWhateverACommandHasLeft) {
+    ClickSet("PUMP.hdn");
+    QString deleted;
+    Window().Commands().Handle("mnuFileListPopupDelete", [&] { deleted = gHdnFile; });
+    gHdnFile = SetPath("CAMS.hdn");
+    QTest::keyClick(Find<FileList>("filFileList"), Qt::Key_Delete);
+    EXPECT_EQ(deleted, SetPath("PUMP.hdn"));
+}
+
 TEST_F(Popup, TheEnterKeyStartsNothing) {
     ClickSet("PUMP.hdn");
     QTest::keyClick(Find<FileList>("filFileList"), Qt::Key_Return);

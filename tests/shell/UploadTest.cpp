@@ -133,6 +133,16 @@ TEST_F(Upload, ErrorIsReportedUnderItsTitle) {
     };
     dialogs_.ExpectBox("Error Number = 5\r\n\r\nInvalid procedure call or argument", 16,
                        "Upload Program", MsgAnswer::Ok);
+    dialogs_.ExpectBoxTitled("File List", MsgAnswer::Ok); // the browser cannot read it either
     Entry("mnuFileUploadProgram")->trigger();
     EXPECT_FALSE(Link().InUploadMode());
+}
+
+TEST_F(Upload, AfterAnErrorTheBrowserShowsTheSetThatWasNamed) {
+    Window().Views().frmDownloadProg = [](qint16) { throw RunTimeError(ErrorNumber::Overflow); };
+    ExpectQuestion("FETCHED", MsgAnswer::Yes);
+    dialogs_.ExpectBoxTitled("Upload Program", MsgAnswer::Ok);
+    UploadAs("FETCHED");
+    EXPECT_EQ(gHdnFile, SetPath("FETCHED.HDN"));
+    EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [FETCHED]");
 }

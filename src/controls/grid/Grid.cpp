@@ -17,8 +17,8 @@ constexpr int rowPadding = 6; // pixels above and below a row's text together
 constexpr int mostMovesOn = 4;
 } // namespace
 
-Grid::Grid(int fixedRows, QWidget* parent)
-    : QTableView(parent), model_(new GridModel(fixedRows, this)),
+Grid::Grid(int fixedRows, QWidget* parent, Alarms& alarms)
+    : QTableView(parent), model_(new GridModel(fixedRows, this, alarms)),
       delegate_(new GridDelegate(this)) {
     setHorizontalHeader(new GridHeader(this));
     setModel(model_);

@@ -18,7 +18,8 @@ class QKeyEvent;
 class Grid : public QTableView {
     Q_OBJECT
 public:
-    explicit Grid(int fixedRows, QWidget* parent = nullptr);
+    /// `alarms` time the repaints and marks; they must outlive the grid.
+    explicit Grid(int fixedRows, QWidget* parent = nullptr, Alarms& alarms = Alarms::System());
 
     int Rows() const { return model_->Rows(); }
     int Cols() const { return model_->Cols(); }

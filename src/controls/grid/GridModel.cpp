@@ -8,14 +8,11 @@ namespace {
 constexpr std::size_t mostSingleChanges = 200;
 } // namespace
 
-GridModel::GridModel(int fixedRows, QObject* parent)
-    : QAbstractTableModel(parent), fixedRows_(fixedRows), rows_(fixedRows) {
-    clock_.start();
-    gatherTimer_.setSingleShot(true);
-    connect(&gatherTimer_, &QTimer::timeout, this, &GridModel::Flush);
-    markTimer_.setSingleShot(true);
-    connect(&markTimer_, &QTimer::timeout, this, &GridModel::DropOldMarks);
-}
+GridModel::GridModel(int fixedRows, QObject* parent, Alarms& alarms)
+    : QAbstractTableModel(parent), fixedRows_(fixedRows), rows_(fixedRows), alarms_(alarms),
+      lastShown_(alarms.Milliseconds() - repaintInterval),
+      showGathered_(alarms.Make([this] { Flush(); })),
+      oldestMarkEnds_(alarms.Make([this] { DropOldMarks(); })) {}
 
 bool GridModel::Contains(int row, int col) const {
     return row >= 0 && row < Rows() && col >= 0 && col < cols_;
@@ -111,20 +108,21 @@ void GridModel::MarkChanged(int row, int col) {
         return;
     const Cell cell(row, col);
     std::erase_if(marks_, [&cell](const Mark& mark) { return mark.cell == cell; });
-    marks_.push_back({cell, clock_.elapsed() + markTime});
-    if (!markTimer_.isActive())
-        markTimer_.start(markTime);
+    marks_.push_back({cell, alarms_.Milliseconds() + markTime});
+    if (!oldestMarkEnds_->IsSet())
+        oldestMarkEnds_->Set(markTime);
     Changed(row, col);
 }
 
 void GridModel::DropOldMarks() {
-    const qint64 now = clock_.elapsed();
+    const qint64 now = alarms_.Milliseconds();
     for (const Mark& mark : marks_)
         if (mark.until <= now)
             Changed(mark.cell.first, mark.cell.second);
     std::erase_if(marks_, [now](const Mark& mark) { return mark.until <= now; });
     if (!marks_.empty())
-        markTimer_.start(static_cast<int>(marks_.front().until - now)); // the oldest stands first
+        oldestMarkEnds_->Set(
+            static_cast<int>(marks_.front().until - now)); // the oldest stands first
 }
 
 void GridModel::Changed(int row, int col) {
@@ -133,17 +131,17 @@ void GridModel::Changed(int row, int col) {
 }
 
 void GridModel::Gather() {
-    if (gatherTimer_.isActive())
+    if (showGathered_->IsSet())
         return;
-    const qint64 since = clock_.elapsed() - lastShown_;
-    gatherTimer_.start(static_cast<int>(std::max<qint64>(repaintInterval - since, 0)));
+    const qint64 since = alarms_.Milliseconds() - lastShown_;
+    showGathered_->Set(static_cast<int>(std::max<qint64>(repaintInterval - since, 0)));
 }
 
 void GridModel::Flush() {
-    gatherTimer_.stop();
+    showGathered_->Stop();
     if (changed_.empty())
         return;
-    lastShown_ = clock_.elapsed();
+    lastShown_ = alarms_.Milliseconds();
     std::set<Cell> changed;
     changed.swap(changed_);
     const bool single = changed.size() <= mostSingleChanges;

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Alarms.h"
+#include <memory>
 #include <QAbstractTableModel>
-#include <QElapsedTimer>
-#include <QTimer>
 #include <set>
 #include <vector>
 
@@ -21,7 +21,8 @@ public:
     /// True for a cell whose value changed a moment ago.
     static constexpr int ChangedRole = Qt::UserRole;
 
-    explicit GridModel(int fixedRows, QObject* parent = nullptr);
+    /// `alarms` time the repaints and marks; they must outlive the model.
+    explicit GridModel(int fixedRows, QObject* parent = nullptr, Alarms& alarms = Alarms::System());
 
     int Rows() const { return static_cast<int>(rows_.size()); }
     int Cols() const { return cols_; }
@@ -84,8 +85,8 @@ private:
 
     std::set<Cell> changed_;
     std::vector<Mark> marks_;
-    QElapsedTimer clock_;
-    qint64 lastShown_ = -repaintInterval;
-    QTimer gatherTimer_;
-    QTimer markTimer_;
+    Alarms& alarms_;
+    qint64 lastShown_;
+    std::unique_ptr<Alarm> showGathered_;
+    std::unique_ptr<Alarm> oldestMarkEnds_;
 };

@@ -7,8 +7,9 @@
 #include <QScopedValueRollback>
 
 WaitJobRunner::WaitJobRunner(const WaitJobs& jobs, QTimer& backgroundUpdate, const Clock& clock,
-                             QWidget* mainWindow)
-    : jobs_(jobs), backgroundUpdate_(backgroundUpdate), clock_(clock), mainWindow_(mainWindow) {}
+                             QWidget* mainWindow, Alarms& alarms)
+    : jobs_(jobs), backgroundUpdate_(backgroundUpdate), clock_(clock), mainWindow_(mainWindow),
+      alarms_(alarms) {}
 
 void WaitJobRunner::RunWaitJob(qint16 JobCode) {
     if (runs_)
@@ -16,6 +17,6 @@ void WaitJobRunner::RunWaitJob(qint16 JobCode) {
     const QScopedValueRollback<bool> running(runs_, true);
     const ViewLoopHold hold;
     gWaitJob = JobCode;
-    frmWaitDisplay view(JobCode, jobs_, backgroundUpdate_, clock_, mainWindow_);
+    frmWaitDisplay view(JobCode, jobs_, backgroundUpdate_, clock_, alarms_, mainWindow_);
     view.RunJob();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Alarms.h"
 #include "jobs/JobRunner.h"
 
 class Clock;
@@ -12,9 +13,9 @@ class WaitJobs;
 class WaitJobRunner final : public JobRunner {
 public:
     /// `backgroundUpdate` is the timer of the background update; the busy view stands over
-    /// `mainWindow`. All must outlive the object.
+    /// `mainWindow` and is repainted by `alarms`. All must outlive the object.
     WaitJobRunner(const WaitJobs& jobs, QTimer& backgroundUpdate, const Clock& clock,
-                  QWidget* mainWindow);
+                  QWidget* mainWindow, Alarms& alarms = Alarms::System());
 
     void RunWaitJob(qint16 JobCode) override;
 
@@ -23,5 +24,6 @@ private:
     QTimer& backgroundUpdate_;
     const Clock& clock_;
     QWidget* mainWindow_;
+    Alarms& alarms_;
     bool runs_ = false;
 };

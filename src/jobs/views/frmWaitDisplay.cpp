@@ -12,6 +12,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -25,16 +26,14 @@ QString WidestText() {
 } // namespace
 
 frmWaitDisplay::frmWaitDisplay(qint16 jobCode, const WaitJobs& jobs, QTimer& backgroundUpdate,
-                               const Clock& clock, QWidget* parent)
+                               const Clock& clock, Alarms& alarms, QWidget* parent)
     : QDialog(parent), jobCode_(jobCode), jobs_(jobs), backgroundUpdate_(backgroundUpdate),
-      clock_(clock) {
+      clock_(clock), nextRepaint_(alarms.Make([this] { RepaintFromNowOn(); })) {
     setObjectName(QStringLiteral("frmWaitDisplay"));
     setWindowTitle(QStringLiteral("Quentor"));
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     setModal(true);
     BuildForm();
-    repaint_.setInterval(repaintInterval);
-    connect(&repaint_, &QTimer::timeout, this, &frmWaitDisplay::Repaint);
     connect(cmdCancel_, &QPushButton::clicked, this, [this] { cancelled_ = true; });
     Load(jobs_.Face(jobCode_));
 }
@@ -120,7 +119,7 @@ void frmWaitDisplay::Activate() {
     backgroundUpdate_.stop();
     const auto goOnAtTheEnd = qScopeGuard([this] { backgroundUpdate_.start(); });
     startedAt_ = clock_.MonotonicSeconds();
-    repaint_.start();
+    nextRepaint_->Set(repaintInterval);
     DoEvents();
     jobs_.Run(jobCode_, *this);
 }
@@ -148,6 +147,11 @@ void frmWaitDisplay::Repaint() {
     pbrWaitDisplay_->setValue(std::clamp(value_, min_, max_));
     lblJobTime_->setText(JobTimeText(TimeOfJob(startedAt_, clock_.MonotonicSeconds(),
                                                firstValue_.value_or(value_), value_, max_)));
+}
+
+void frmWaitDisplay::RepaintFromNowOn() {
+    nextRepaint_->Set(repaintInterval);
+    Repaint();
 }
 
 // Escape is a Cancel; the view itself stays until the job has ended.

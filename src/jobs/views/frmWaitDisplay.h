@@ -1,9 +1,10 @@
 #pragma once
 
+#include "base/Alarms.h"
 #include "jobs/JobProgress.h"
+#include <memory>
 #include <optional>
 #include <QDialog>
-#include <QTimer>
 
 class Clock;
 class QFrame;
@@ -11,6 +12,7 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QSpacerItem;
+class QTimer;
 class QVBoxLayout;
 class WaitJobs;
 struct WaitJobFace;
@@ -18,7 +20,7 @@ struct WaitJobFace;
 /// The modal busy view of one job: message, progress bar, the time that has passed and about how
 /// much remains, Cancel. It is loaded for one job and dies after it.
 ///
-/// What a job tells is put on the screen by a timer, ten times a second, however fast the job goes
+/// What a job tells is put on the screen by an alarm, ten times a second, however fast the job goes
 /// on: painting takes time from the line, and nobody reads faster. A click on Cancel is taken at
 /// the job's next yield.
 class frmWaitDisplay final : public QDialog, private JobProgress {
@@ -28,10 +30,10 @@ public:
     static constexpr int repaintInterval = 100;
 
     /// Loads the view with the face of the job of this code. `backgroundUpdate` is the timer of
-    /// the background update, which stands still while the job runs; `clock` times the job. All
-    /// must outlive the view.
+    /// the background update, which stands still while the job runs; `clock` times the job,
+    /// `alarms` the repaints. All must outlive the view.
     frmWaitDisplay(qint16 jobCode, const WaitJobs& jobs, QTimer& backgroundUpdate,
-                   const Clock& clock, QWidget* parent = nullptr);
+                   const Clock& clock, Alarms& alarms, QWidget* parent = nullptr);
     ~frmWaitDisplay() override;
 
     /// Shows the view, runs the job in it and hides it again. What the job raises passes on.
@@ -50,6 +52,7 @@ private:
     void LowerMessage();
     void Activate();
     void Repaint();
+    void RepaintFromNowOn();
 
     void ShowMessage(const QString& text) override { message_ = text; }
     void ShowSecondLine(const QString& text) override { secondLine_ = text; }
@@ -71,7 +74,7 @@ private:
     QProgressBar* pbrWaitDisplay_ = nullptr;
     QLabel* lblJobTime_ = nullptr;
     QPushButton* cmdCancel_ = nullptr;
-    QTimer repaint_;
+    std::unique_ptr<Alarm> nextRepaint_;
 
     bool cancelled_ = false;
     QString message_;

@@ -1,6 +1,7 @@
 #include "statustable/views/StatusTableForm.h"
 
 #include "controls/grid/Grid.h"
+#include "controls/WrappingRow.h"
 #include "statustable/AddressEntry.h"
 #include "statustable/TableBoards.h"
 #include <QBoxLayout>
@@ -26,7 +27,7 @@ QHBoxLayout* RowOf(std::initializer_list<QWidget*> controls) {
 }
 } // namespace
 
-StatusTableForm::StatusTableForm(QWidget& view)
+StatusTableForm::StatusTableForm(QWidget& view, Alarms& alarms)
     : fraProgram(Make<QGroupBox>(view, "fraProgram", QStringLiteral("Program:"))),
       cmdSelectProgram(
           Make<QPushButton>(view, "cmdSelectProgram", QStringLiteral("Select &Program..."))),
@@ -36,7 +37,8 @@ StatusTableForm::StatusTableForm(QWidget& view)
           Make<QCheckBox>(view, "chkViewDescriptions", QStringLiteral("View &Descriptions"))),
       chkViewOffline(Make<QCheckBox>(view, "chkViewOffline", QStringLiteral("View Offline Data"))),
       fraStatus(Make<QGroupBox>(view, "fraStatus", QStringLiteral("&Status Table:"))),
-      fgStatus(new Grid(firstDataRow, &view)), lblPaste(Make<QLabel>(view, "lblPaste", QString())),
+      fgStatus(new Grid(firstDataRow, &view, alarms)),
+      lblPaste(Make<QLabel>(view, "lblPaste", QString())),
       cmdNewTable(Make<QPushButton>(view, "cmdNewTable", QStringLiteral("Ne&w"))),
       cmdOpenTable(Make<QPushButton>(view, "cmdOpenTable", QStringLiteral("&Open..."))),
       cmdSaveTable(Make<QPushButton>(view, "cmdSaveTable", QStringLiteral("S&ave"))),
@@ -58,9 +60,11 @@ StatusTableForm::StatusTableForm(QWidget& view)
 void StatusTableForm::LayOut(QWidget& view) {
     auto* lblTargetBoard = new QLabel(QStringLiteral("Target &Board:"), &view);
     lblTargetBoard->setBuddy(cboTargetBoard);
-    QHBoxLayout* program = RowOf({cmdSelectProgram, lblTargetBoard, cboTargetBoard, chkViewNicNames,
-                                  chkViewDescriptions, chkViewOffline});
-    program->addStretch();
+    auto* program = new WrappingRow;
+    program->addWidget(cmdSelectProgram);
+    program->AddTogether({lblTargetBoard, cboTargetBoard});
+    for (QWidget* box : {chkViewNicNames, chkViewDescriptions, chkViewOffline})
+        program->addWidget(box);
     fraProgram->setLayout(program);
 
     QHBoxLayout* commands =

@@ -1,5 +1,6 @@
 #pragma once
 
+class Alarms;
 class Grid;
 class QCheckBox;
 class QComboBox;
@@ -10,7 +11,7 @@ class QWidget;
 
 /// The controls of the status table, made and laid out in a widget that owns them.
 struct StatusTableForm {
-    explicit StatusTableForm(QWidget& view);
+    StatusTableForm(QWidget& view, Alarms& alarms);
 
     QGroupBox* fraProgram;
     QPushButton* cmdSelectProgram;

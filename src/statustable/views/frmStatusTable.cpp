@@ -24,7 +24,7 @@
 StatusTableHost::~StatusTableHost() = default;
 
 frmStatusTable::frmStatusTable(const Seams& seams, QWidget* parent)
-    : QWidget(parent), seams_(seams), form_(*this),
+    : QWidget(parent), seams_(seams), form_(*this, seams.alarms),
       editor_(*form_.fgStatus, seams.link, seams.dialogs, state_),
       loop_(*form_.fgStatus, seams.link, seams.mode, state_),
       document_(*form_.fgStatus, editor_, state_, seams.dialogs, seams.jobs, *this),

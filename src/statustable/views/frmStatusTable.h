@@ -32,6 +32,7 @@ public:
         JobRunner& jobs;
         StatusTableHost& host;
         QString applicationFolder; ///< where the file dialogs start when no program is selected
+        Alarms& alarms = Alarms::System(); ///< time the repaints of the grid
     };
 
     explicit frmStatusTable(const Seams& seams, QWidget* parent = nullptr);

@@ -1,11 +1,10 @@
 #include "controls/grid/GridModel.h"
 
 #include "support/PrintText.h"
+#include "support/VirtualAlarms.h"
 #include <gtest/gtest.h>
 #include <QAbstractItemModelTester>
-#include <QElapsedTimer>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 class GridModelRows : public testing::Test {
@@ -25,7 +24,9 @@ protected:
         return texts;
     }
 
-    GridModel model{2};
+    VirtualClock clock;
+    VirtualAlarms alarms{clock};
+    GridModel model{2, nullptr, alarms};
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 } // namespace
@@ -96,16 +97,19 @@ TEST_F(GridModelRows, RevisionTellsWhetherAnythingChanged) {
 
 TEST_F(GridModelRows, RepaintsAreGatheredToAtMost25ASecond) {
     QSignalSpy repaints(&model, &GridModel::dataChanged);
-    QElapsedTimer timer;
-    timer.start();
-    int value = 0;
-    while (timer.elapsed() < 400) {
-        model.SetText(2, 1, QString::number(++value));
-        QTest::qWait(1);
+    for (int passed = 0; passed < 10 * GridModel::repaintInterval; ++passed) {
+        model.SetText(2, 1, QString::number(passed));
+        alarms.Pass(1);
     }
-    EXPECT_GT(value, 50);
-    EXPECT_LE(repaints.size(), 2 + timer.elapsed() / GridModel::repaintInterval);
-    EXPECT_GE(repaints.size(), 2);
+    EXPECT_EQ(repaints.size(), 10);
+}
+
+TEST_F(GridModelRows, AChangeAfterALongPauseIsShownInTheNextTurn) {
+    alarms.Pass(10 * GridModel::repaintInterval);
+    QSignalSpy repaints(&model, &GridModel::dataChanged);
+    model.SetText(2, 1, "late");
+    alarms.Pass(1);
+    EXPECT_EQ(repaints.size(), 1);
 }
 
 TEST_F(GridModelRows, FlushShowsAtOnce) {
@@ -132,7 +136,29 @@ TEST_F(GridModelRows, AMarkGoesOutAgain) {
     const QModelIndex cell = model.index(1, 1);
     EXPECT_TRUE(cell.data(GridModel::ChangedRole).toBool());
     EXPECT_FALSE(model.index(0, 1).data(GridModel::ChangedRole).toBool());
-    QTRY_VERIFY_WITH_TIMEOUT(!cell.data(GridModel::ChangedRole).toBool(), 5000);
+    QSignalSpy repaints(&model, &GridModel::dataChanged);
+    alarms.Pass(GridModel::markTime - 1);
+    EXPECT_TRUE(cell.data(GridModel::ChangedRole).toBool());
+    EXPECT_EQ(repaints.size(), 1);
+    alarms.Pass(2);
+    EXPECT_FALSE(cell.data(GridModel::ChangedRole).toBool());
+    EXPECT_EQ(repaints.size(), 2) << "it goes out on the screen too";
+}
+
+TEST_F(GridModelRows, MarksGoOutEachInItsOwnTime) {
+    const QModelIndex first = model.index(1, 1);
+    const QModelIndex second = model.index(2, 1);
+    model.MarkChanged(3, 1);
+    alarms.Pass(100);
+    model.MarkChanged(4, 1);
+    alarms.Pass(GridModel::markTime - 100);
+    EXPECT_FALSE(first.data(GridModel::ChangedRole).toBool());
+    EXPECT_TRUE(second.data(GridModel::ChangedRole).toBool());
+    model.MarkChanged(4, 1); // changed once more: its time begins again
+    alarms.Pass(GridModel::markTime - 1);
+    EXPECT_TRUE(second.data(GridModel::ChangedRole).toBool());
+    alarms.Pass(1);
+    EXPECT_FALSE(second.data(GridModel::ChangedRole).toBool());
 }
 
 TEST_F(GridModelRows, MarksEndWhenRowsComeOrGo) {

@@ -86,7 +86,8 @@ TEST_F(GridOnScreen, MovesAreToldOnce) {
     EXPECT_EQ(entered.size(), 1);
     Press(Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(entered.size(), 1) << "extending the selection is no move";
-    QTest::qWait(20);
+    for (int turn = 0; turn < 20; ++turn) // nothing is told later by a queued call
+        QCoreApplication::processEvents();
     EXPECT_EQ(entered.size(), 1);
 }
 

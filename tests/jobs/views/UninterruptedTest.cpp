@@ -6,8 +6,8 @@
 #include "jobs/views/WaitJobRunner.h"
 #include "jobs/WaitJobs.h"
 #include "support/BoardPort.h"
+#include "support/VirtualAlarms.h"
 #include <QApplication>
-#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -42,11 +42,18 @@ protected:
         viewLoops.Activate(loop);
     }
 
+    // Turns of the event loop, and as much time as the loops rest while they are held.
+    void LetTimePass() {
+        for (int passed = 0; passed <= ViewLoopRunner::restTime; ++passed) {
+            alarms.Pass(1);
+            QCoreApplication::processEvents();
+        }
+    }
     // Both would run now, were there no job.
     void LetBothRun() {
         const int ticksBefore = ticks;
         const int stepsBefore = loop.steps;
-        QTest::qWait(ViewLoopRunner::restTime + 50);
+        LetTimePass();
         EXPECT_GT(ticks, ticksBefore);
         EXPECT_GT(loop.steps, stepsBefore);
     }
@@ -75,8 +82,9 @@ protected:
     int ticks = 0;
     WaitJobs jobs;
     QTimer backgroundUpdate;
-    ViewLoopRunner viewLoops{[](const ViewLoop&) { return false; }};
-    WaitJobRunner runner{jobs, backgroundUpdate, clock, nullptr};
+    VirtualAlarms alarms{clock};
+    ViewLoopRunner viewLoops{[](const ViewLoop&) { return false; }, alarms};
+    WaitJobRunner runner{jobs, backgroundUpdate, clock, nullptr, alarms};
 };
 } // namespace
 
@@ -110,7 +118,7 @@ TEST_F(Uninterrupted, NothingElseGoesOutWhileABoxOfTheJobIsUp) {
     SetTransfer(XferMode::Datafile, 0, 0, 3);
     transfer.SetupFileDownload(QStringLiteral("B100"));
     dialogs.ExpectBox(QStringLiteral("Error:\rOnly Numerical Data Allowed."), MsgStyle::Critical,
-                      QStringLiteral("ENTRY ALERT"), MsgAnswer::Ok, [] { QTest::qWait(150); });
+                      QStringLiteral("ENTRY ALERT"), MsgAnswer::Ok, [this] { LetTimePass(); });
     EXPECT_EQ(BytesOfJob(), (std::vector<int>{0xFF, 2, 0, 100, 1, 0, 102, 2}));
     LetBothRun();
 }

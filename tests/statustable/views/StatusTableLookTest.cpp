@@ -62,7 +62,7 @@ protected:
 } // namespace
 
 TEST_P(StatusTableLook, ValuesAndChangedValuesStayReadable) {
-    QTest::qWait(GridModel::markTime + 100);
+    table->alarms.Pass(GridModel::markTime + 100);
     EXPECT_GT(Contrast(*table, 2, 2), 0.5);
     table->boardPort.board.Poke(100, 99);
     table->Until([this] { return table->Cell(2, 2) == "99"; });
@@ -78,3 +78,21 @@ TEST_P(StatusTableLook, ValuesAndChangedValuesStayReadable) {
 }
 
 INSTANTIATE_TEST_SUITE_P(LightAndDark, StatusTableLook, testing::Bool());
+
+// As much as a screen of 640 by 400 leaves to the view.
+TEST(StatusTableInASmallWindow, ShowsEveryControlWhole) {
+    const TableUnderTest table;
+    const QSize small(620, 300);
+    table.view->resize(small);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(table.view->size(), small);
+    for (const char* name :
+         {"cmdSelectProgram", "cboTargetBoard", "chkViewNicNames", "chkViewDescriptions",
+          "chkViewOffline", "fgStatus", "cmdNewTable", "cmdOpenTable", "cmdSaveTable",
+          "cmdSaveTableAs", "chkAutoIncrement"}) {
+        const auto& control = table.Find<QWidget>(name);
+        const QRect place(control.mapTo(table.view.get(), QPoint(0, 0)), control.size());
+        EXPECT_TRUE(table.view->rect().contains(place)) << name;
+        EXPECT_GE(place.width(), control.minimumSizeHint().width()) << name;
+    }
+}

@@ -38,12 +38,12 @@ bool BoardAtPort::WaitForInput(double deadline) {
 
 TableUnderTest::TableUnderTest(int model)
     : boardPort(clock, model), mode(link, boardPort, *this),
-      loops([](const ViewLoop&) { return false; }) {
+      loops([](const ViewLoop&) { return false; }, alarms) {
     gTableAddresses.clear();
     gTableTitle.clear();
     gViewNicNames = gViewDescriptions = false;
     view = std::make_unique<frmStatusTable>(frmStatusTable::Seams{
-        link, mode, dialogs, loops, jobs, host, QStringLiteral("/application")});
+        link, mode, dialogs, loops, jobs, host, QStringLiteral("/application"), alarms});
     view->RegisterJobs(jobs.jobs);
     view->resize(900, 600);
     view->show();
@@ -64,15 +64,21 @@ void TableUnderTest::Connect() {
 }
 
 void TableUnderTest::Until(const std::function<bool()>& condition) {
-    loops.Wake();
-    EXPECT_TRUE(QTest::qWaitFor(condition, 5000));
+    for (int passed = 0; !condition() && passed < 5000; ++passed)
+        LetAMomentPass();
+    EXPECT_TRUE(condition());
 }
 
 void TableUnderTest::RunPasses() {
     for (int turn = 0; turn < 100; ++turn) {
         loops.Wake();
-        QTest::qWait(0);
+        LetAMomentPass();
     }
+}
+
+void TableUnderTest::LetAMomentPass() {
+    alarms.Pass(1);
+    QCoreApplication::processEvents();
 }
 
 void TableUnderTest::Type(const QString& keys) {

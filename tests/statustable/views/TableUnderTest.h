@@ -11,6 +11,7 @@
 #include "statustable/views/frmStatusTable.h"
 #include "statustable/views/StatusTableHost.h"
 #include "support/LinkUnderTest.h"
+#include "support/VirtualAlarms.h"
 #include <deque>
 #include <memory>
 #include <vector>
@@ -112,6 +113,7 @@ public:
     TestFiles files;
     BoardAtPort boardPort;
     CommMode mode;
+    VirtualAlarms alarms{clock};
     ViewLoopRunner loops;
     JobsAtOnce jobs;
     NotedHost host;
@@ -119,4 +121,6 @@ public:
 
 private:
     void ShowMode(bool) override {}
+    // A millisecond of virtual time and one turn of the events.
+    void LetAMomentPass();
 };
