@@ -10,8 +10,10 @@
 #include "tour/BoardProcess.h"
 #include "tour/DataTransferTour.h"
 #include "tour/HelpTour.h"
+#include "tour/LimitSwitchTour.h"
 #include "tour/MainJobTour.h"
 #include "tour/ProgramSetTour.h"
+#include "tour/ResultsTour.h"
 #include "tour/StatusTableTour.h"
 #include "tour/TargetBoardTour.h"
 #include "tour/TourGuide.h"
@@ -57,6 +59,8 @@ int RunTour(const QString& output) {
     AddTrending(guide, application.MainWindow(), board, setting);
     AddTargetBoard(guide, application.MainWindow(), board);
     AddProgramSets(guide, application.MainWindow(), board, setting);
+    AddResults(guide, application.MainWindow(), setting);
+    AddLimitSwitch(guide, application.MainWindow(), board);
     AddHelp(guide, application.MainWindow());
     guide.Start();
     application.Start();
