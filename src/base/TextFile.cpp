@@ -1,6 +1,7 @@
 #include "base/TextFile.h"
 
 #include "base/CharacterSet.h"
+#include "base/FlushToDisk.h"
 #include "base/RunTimeError.h"
 #include "base/Siblings.h"
 #include <QFileInfo>
@@ -177,7 +178,7 @@ void WriteWholeFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(target);
     if (!file.open(QIODevice::WriteOnly))
         throw RunTimeError(ErrorNumber::PathFileAccess);
-    const bool written = file.write(bytes) == bytes.size();
+    const bool written = file.write(bytes) == bytes.size() && FlushToDisk(file);
     if (!written || !file.commit())
         throw RunTimeError(file.error() == QFileDevice::PermissionsError
                                ? ErrorNumber::PathFileAccess

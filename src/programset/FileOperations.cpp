@@ -1,15 +1,12 @@
 #include "programset/FileOperations.h"
 
+#include "base/FlushToDisk.h"
 #include "base/TextFile.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStorageInfo>
-
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
 
 namespace {
 constexpr qint64 pieceSize = 1024 * 1024; // bytes held in memory at a time
@@ -49,11 +46,7 @@ void CopyBytes(QFile& source, QSaveFile& target) {
 
 // A rename removes the old file next: the new one must have reached the disk by then.
 void CommitToDisk(QSaveFile& target) {
-    bool written = target.flush();
-#ifdef Q_OS_UNIX
-    written = written && ::fsync(target.handle()) == 0;
-#endif
-    if (!written)
+    if (!FlushToDisk(target))
         throw FileError(ErrorNumber::DiskFull, target.fileName());
     if (!target.commit())
         throw FileError(ErrorNumber::PathFileAccess, target.fileName());

@@ -1,0 +1,77 @@
+#include "Saves.h"
+#include <chrono>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <QTemporaryDir>
+#include <random>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+// A process that saves the two contents by turns is killed at a random moment, again and again.
+
+namespace {
+constexpr int kills = 50;
+
+class KilledSave : public testing::TestWithParam<Save> {
+protected:
+    KilledSave() : folder_(FastFolder()) {
+        MakeFiles(folder_.path(), {{QStringLiteral("PUMP.hdn"), "5\r\n"}});
+        for (int content : {1, 0}) {
+            GetParam().run(folder_.path(), content);
+            whole_[content] = FilesBelow(folder_.path());
+        }
+    }
+    [[noreturn]] void SaveForEver(int readyPipe) const {
+        for (int content = 1;; content = 1 - content) {
+            GetParam().run(folder_.path(), content);
+            if (readyPipe >= 0 && ::write(readyPipe, "r", 1) == 1)
+                ::close(std::exchange(readyPipe, -1));
+        }
+    }
+    /// Starts the saving process, waits for its first save and kills it a moment later.
+    void SaveAndKill(std::chrono::microseconds after) const {
+        int ready[2];
+        ASSERT_EQ(::pipe(ready), 0);
+        const pid_t child = ::fork();
+        if (child == 0)
+            SaveForEver(ready[1]);
+        ::close(ready[1]);
+        char byte = '\0';
+        ASSERT_EQ(::read(ready[0], &byte, 1), 1);
+        ::close(ready[0]);
+        std::this_thread::sleep_for(after); // the moment of the kill is a real one
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status));
+    }
+    void ExpectWhole() const {
+        const Files now = FilesBelow(folder_.path());
+        for (const auto& [name, bytes] : whole_[0]) {
+            ASSERT_TRUE(now.count(name)) << name.toStdString();
+            EXPECT_TRUE(now.at(name) == bytes || now.at(name) == whole_[1].at(name))
+                << name.toStdString();
+        }
+    }
+
+    QTemporaryDir folder_;
+    Files whole_[2];
+};
+} // namespace
+
+TEST_P(KilledSave, LeavesOneContentOrTheOtherAndTheNextSaveWorks) {
+    std::mt19937 random(20261121);
+    std::uniform_int_distribution<int> moment(0, 2000); // microseconds: some 20 saves
+    for (int kill = 0; kill < kills && !HasFailure(); ++kill) {
+        SaveAndKill(std::chrono::microseconds(moment(random)));
+        ExpectWhole();
+    }
+    GetParam().run(folder_.path(), 1);
+    const Files now = FilesBelow(folder_.path());
+    for (const auto& [name, bytes] : whole_[1])
+        EXPECT_EQ(now.at(name), bytes) << name.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(AllSaves, KilledSave, testing::ValuesIn(AllSaves()),
+                         [](const auto& save) { return std::string(save.param.name); });

@@ -1,0 +1,25 @@
+#pragma once
+
+/// What goes wrong at a call by which the program changes the disk.
+enum class Spoil {
+    DeviceFails,   ///< this call alone raises an input/output error and does nothing
+    DiskStaysFull, ///< from this call on, none that needs room succeeds; a write takes half first
+    KilledBefore,  ///< the process dies as by kill -9 before the call
+    KilledAfter,   ///< and after it
+};
+
+/// Counts, for as long as it lives, the calls by which this process changes the disk (open for
+/// writing, write, flush to disk, link, rename, remove, make and remove a folder, set a time), and
+/// spoils one of them. The calls of the libraries in use come by here too, since the names are
+/// those of the system's own functions. One at a time may live.
+class SpoiltCalls {
+public:
+    /// The `nth` call from now on is spoilt, counted from 1; 0 counts only.
+    SpoiltCalls(int nth, Spoil how);
+    ~SpoiltCalls();
+    SpoiltCalls(const SpoiltCalls&) = delete;
+    SpoiltCalls& operator=(const SpoiltCalls&) = delete;
+
+    /// Calls so far, the spoilt one included.
+    int Count() const;
+};
