@@ -7,7 +7,11 @@ class AnsweredDialogs final : public Dialogs {
 public:
     explicit AnsweredDialogs(QString name = QString()) : name_(std::move(name)) {}
 
-    int MsgBox(const QString&, int style, const QString&) override {
+    /// Text of the box that was shown last.
+    const QString& LastText() const { return lastText_; }
+
+    int MsgBox(const QString& text, int style, const QString&) override {
+        lastText_ = text;
         constexpr int buttons = 7; // bits of a style that tell which buttons there are
         switch (style & buttons) {
         case 3:
@@ -26,4 +30,5 @@ public:
 
 private:
     QString name_;
+    QString lastText_;
 };

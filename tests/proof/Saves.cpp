@@ -24,7 +24,7 @@
 #include <unistd.h>
 
 namespace {
-constexpr int pollOfRows = 200; // samples, enough for a file of several blocks
+constexpr int rowsOfAFile = 200;
 
 QString Numbered(int content, int number) {
     return QString::number(content == 0 ? number : 100'000 + 7 * number);
@@ -50,14 +50,14 @@ void SaveTitle(const QString& folder, int content) {
 
 void SaveTable(const QString& folder, int content) {
     QStringList addresses;
-    for (int row = 0; row < pollOfRows; ++row)
+    for (int row = 0; row < rowsOfAFile; ++row)
         addresses += u'B' + Numbered(content, row);
     WriteTableFile(folder + QStringLiteral("/PUMP.tbl"), qint16(content), addresses);
 }
 
 std::vector<TrendRow> Rows(int content) {
     std::vector<TrendRow> rows;
-    for (int row = 0; row < pollOfRows; ++row)
+    for (int row = 0; row < rowsOfAFile; ++row)
         rows.push_back({Numbered(content, row), Numbered(content, 2 * row)});
     return rows;
 }
@@ -75,7 +75,7 @@ void ExportSamples(const QString& folder, int content) {
 
 void SaveData(const QString& folder, int content) {
     QStringList pairs;
-    for (int byte = 0; byte < pollOfRows; ++byte)
+    for (int byte = 0; byte < rowsOfAFile; ++byte)
         pairs += content == 0 ? QStringLiteral("0A") : QStringLiteral("F5");
     WriteDataPairs(folder + QStringLiteral("/PUMP.LDT"), pairs);
 }
@@ -84,7 +84,7 @@ void SaveData(const QString& folder, int content) {
 void SaveLimitSwitch(const QString& folder, int content) {
     for (const char* name : {"/PUMP.PCF", "/PUMP.CHL"}) {
         TextWriter file(folder + QLatin1String(name));
-        for (int line = 0; line < pollOfRows; ++line)
+        for (int line = 0; line < rowsOfAFile; ++line)
             file.PrintText(Numbered(content, line));
         file.Close();
     }
@@ -109,6 +109,8 @@ void UploadProgram(const QString& folder, int content) {
     link.UploadFile(folder + QStringLiteral("/PUMP.hdn"));
     link.SetInUploadMode(true);
     link.UploadProgram();
+    if (dialogs.LastText() != QStringLiteral("Program Upload Complete!"))
+        throw RunTimeError(ErrorNumber::DiskFull); // a box told the user what went wrong
 }
 
 int ExitCodeOf(const std::function<void()>& work) {
