@@ -1,4 +1,6 @@
+#include "FilesOfRun.h"
 #include "Saves.h"
+#include "SpoiltCalls.h"
 #include <chrono>
 #include <csignal>
 #include <gtest/gtest.h>
@@ -13,18 +15,18 @@
 namespace {
 constexpr int kills = 50;
 
-class KilledSave : public testing::TestWithParam<Save> {
+class KilledSave : public testing::TestWithParam<SaveOnDisk> {
 protected:
     KilledSave() : folder_(FastFolder()) {
         MakeFiles(folder_.path(), {{QStringLiteral("PUMP.hdn"), "5\r\n"}});
         for (int content : {1, 0}) {
-            GetParam().run(folder_.path(), content);
+            GetParam().save.run(folder_.path(), content);
             whole_[content] = FilesBelow(folder_.path());
         }
     }
     [[noreturn]] void SaveForEver(int readyPipe) const {
         for (int content = 1;; content = 1 - content) {
-            GetParam().run(folder_.path(), content);
+            GetParam().save.run(folder_.path(), content);
             if (readyPipe >= 0 && ::write(readyPipe, "r", 1) == 1)
                 ::close(std::exchange(readyPipe, -1));
         }
@@ -55,6 +57,7 @@ protected:
         }
     }
 
+    const NamedTemporaries disk_{GetParam().namedTemporaries};
     QTemporaryDir folder_;
     Files whole_[2];
 };
@@ -67,11 +70,11 @@ TEST_P(KilledSave, LeavesOneContentOrTheOtherAndTheNextSaveWorks) {
         SaveAndKill(std::chrono::microseconds(moment(random)));
         ExpectWhole();
     }
-    GetParam().run(folder_.path(), 1);
+    GetParam().save.run(folder_.path(), 1);
     const Files now = FilesBelow(folder_.path());
     for (const auto& [name, bytes] : whole_[1])
         EXPECT_EQ(now.at(name), bytes) << name.toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(AllSaves, KilledSave, testing::ValuesIn(AllSaves()),
-                         [](const auto& save) { return std::string(save.param.name); });
+INSTANTIATE_TEST_SUITE_P(AllSaves, KilledSave, testing::ValuesIn(AllSavesOnDisks()),
+                         [](const auto& save) { return NameOf(save.param); });

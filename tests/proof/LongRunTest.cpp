@@ -2,6 +2,7 @@
 #include "controls/grid/Grid.h"
 #include "pls/views/frmTiming.h"
 #include "support/PrintText.h"
+#include "targetboard/BoardClock.h"
 #include "trending/views/frmTrending.h"
 #include <cmath>
 #include <ctime>
@@ -11,6 +12,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QTest>
 
@@ -26,13 +29,13 @@ constexpr double look = 2.0;
 constexpr double look = 0.5;
 #endif
 constexpr double sampleInterval = std::max(1.0, look);
-constexpr int minute = 60;         // seconds
-constexpr int hour = 60 * minute;  // seconds
-constexpr int runTime = 8 * hour;  // seconds
+constexpr int minute = 60;          // seconds
+constexpr int hour = 60 * minute;   // seconds
+constexpr int runTime = 8 * hour;   // seconds
 constexpr int warmUp = 10 * minute; // seconds: by then everything was used once
 constexpr int turnOfView = 3 * minute;
-constexpr int loopSteps = 4;       // of the active view's loop, at each look
-constexpr int paintEvery = 20;     // seconds of virtual time between turns of the event loop
+constexpr int loopSteps = 6;  // of the active view's loop, at each look
+constexpr int paintEvery = 5; // seconds of virtual time between turns of the event loop
 constexpr std::size_t mostGrowth = 1024 * 1024; // bytes
 
 constexpr int k2041 = 55; // a limit switch board
@@ -92,7 +95,8 @@ protected:
             ++ticks_;
             Sample();
             for (int step = 0; step < loopSteps && application_->Loops().Current(); ++step)
-                application_->Loops().Current()->TakeStep();
+                StepOfLoop();
+            bytesSent_ += port_.Sent().size();
             port_.ForgetSent();
             if (Elapsed() >= nextPaint_)
                 Paint();
@@ -103,11 +107,14 @@ protected:
         }
     }
     virtual void Sample() {}
+    void StepOfLoop() {
+        shownAt_ = clock_.WallClock();
+        application_->Loops().Current()->TakeStep();
+    }
     void Paint() {
         nextPaint_ = Elapsed() + paintEvery;
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        ++paints_;
     }
     void SetClockBack() {
         clockSetBack_ = true;
@@ -122,11 +129,13 @@ protected:
         ASSERT_TRUE(warm_);
         EXPECT_LE(HeapInUse(), heapAfterWarmUp_ + mostGrowth);
         EXPECT_EQ(OpenHandles(), handlesAfterWarmUp_);
+        // At each look a read by the background update and several by the loop, two bytes each.
+        EXPECT_GE(bytesSent_, 4 * std::size_t(ticks_));
+        RecordProperty("bytesSent", std::to_string(bytesSent_));
         RecordProperty("heapGrowth", std::to_string(qint64(HeapInUse() - heapAfterWarmUp_)));
     }
     /// The panels of date and time follow the wall clock, whatever was done to it.
     void ExpectPanelsShowWallClock() {
-        QMetaObject::invokeMethod(Window().findChild<QTimer*>("nextMinute")->parent(), [] {});
         auto* timer = Find<QTimer>("nextMinute");
         QTimerEvent event(timer->timerId());
         QCoreApplication::sendEvent(timer, &event);
@@ -135,7 +144,8 @@ protected:
 
     SummerTimeZone zone_;
     int ticks_ = 0;
-    int paints_ = 0;
+    QDateTime shownAt_; ///< when the last step of a loop began
+    std::size_t bytesSent_ = 0;
 
 private:
     double start_ = 0.0;
@@ -151,10 +161,10 @@ class LongRunOfStandardBoard : public LongRun {
 protected:
     static constexpr int tableAddress = 100;
     static constexpr int trendAddress = 101;
-    static constexpr int faultFree = 0;
+    static constexpr int networkAddress = 8180;
 
     void OpenViews() {
-        SetFaultCode(faultFree);
+        SetFaultCode(0);
         Entry("mnuViewOnline")->trigger();
         Press("Status");
         TypeAddresses({u"b100"_qs, u"b101"_qs, u"w102"_qs, u"d104"_qs, u"f3"_qs});
@@ -171,6 +181,7 @@ protected:
         interval->setCurrentIndex(intervalOfOneSecond);
         Q_EMIT interval->activated(intervalOfOneSecond);
         trend_->findChild<QCheckBox*>("chkAcquire")->setChecked(true);
+        trend_->findChild<QCheckBox*>("chkLiveData")->setChecked(true);
         for (QTimer* timer : trend_->findChildren<QTimer*>(Qt::FindDirectChildrenOnly))
             if (timer->isActive() && timer->interval() == 1000)
                 trendTimer_ = timer;
@@ -181,7 +192,7 @@ protected:
         QCoreApplication::sendEvent(trendTimer_, &event);
     }
     void NewValues() {
-        value_ = (value_ + 1) % 256;
+        value_ = (value_ + 1) % 100; // a network address has two digits
         Fill(tableAddress, 1, value_);
         Fill(trendAddress, 1, value_);
     }
@@ -200,7 +211,13 @@ protected:
     }
     void TurnOfTargetBoard(double end) {
         WhenUp("frmTargetBoard", [this, end](QWidget& view) {
+            NewValues();
+            Fill(networkAddress, 1, value_);
             PassUntil(end);
+            // The clock page shows the computer's time, whatever was done to that.
+            EXPECT_EQ(view.findChild<QLabel*>("lblCurrTime")->text(),
+                      CurrTimeText(shownAt_.time()));
+            EXPECT_EQ(view.findChild<QLineEdit*>("txtSetup(0)")->text().toInt(), value_);
             ClickButton(view, "cmdOk");
         });
         Press("PLC");

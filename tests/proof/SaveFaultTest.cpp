@@ -1,5 +1,7 @@
 #include "base/RunTimeError.h"
 #include "base/TextFile.h"
+#include "FilesOfRun.h"
+#include "programset/ProgramSet.h"
 #include "Saves.h"
 #include "SpoiltCalls.h"
 #include <gtest/gtest.h>
@@ -11,7 +13,7 @@
 namespace {
 constexpr int mostCalls = 1000;
 
-class SaveFault : public testing::TestWithParam<Save> {
+class SaveFault : public testing::TestWithParam<SaveOnDisk> {
 protected:
     SaveFault() : old_(Made(0)), new_(Made(1)) {}
 
@@ -37,7 +39,7 @@ protected:
         {
             const SpoiltCalls spoilt(nth, how);
             try {
-                GetParam().run(folder->path(), 1);
+                GetParam().save.run(folder->path(), 1);
             } catch (const RunTimeError&) {
                 raised = true;
             }
@@ -54,10 +56,12 @@ protected:
         const auto folder = OldFolder();
         const bool ended = RunsToItsEnd([&] {
             const SpoiltCalls spoilt(nth, how);
-            GetParam().run(folder->path(), 1);
+            GetParam().save.run(folder->path(), 1);
         });
         ExpectOldOrNew(FilesBelow(folder->path()), nth);
-        GetParam().run(folder->path(), 1);
+        // A temporary file that is left belongs to no program set and is in nobody's way.
+        EXPECT_EQ(SetMembers(folder->path(), QStringLiteral("PUMP")).size(), membersOfOld_);
+        GetParam().save.run(folder->path(), 1);
         const Files after = FilesBelow(folder->path());
         for (const auto& [name, bytes] : new_)
             EXPECT_EQ(after.at(name), bytes) << "the save after the crash, call " << nth;
@@ -73,14 +77,16 @@ protected:
         EXPECT_LT(nth, mostCalls);
     }
 
+    const NamedTemporaries disk_{GetParam().namedTemporaries};
     Files old_;
     Files new_;
+    const qsizetype membersOfOld_ = SetMembers(OldFolder()->path(), QStringLiteral("PUMP")).size();
 
 private:
     static Files Made(int content) {
         const QTemporaryDir folder(FastFolder());
         MakeFiles(folder.path(), {{QStringLiteral("PUMP.hdn"), "5\r\n"}});
-        GetParam().run(folder.path(), content);
+        GetParam().save.run(folder.path(), content);
         return FilesBelow(folder.path());
     }
 };
@@ -107,5 +113,5 @@ TEST_P(SaveFault, AKillAfterAnyCallLeavesOldOrNew) {
     AtEachCall([this](int nth) { return SaveAndDie(nth, Spoil::KilledAfter); });
 }
 
-INSTANTIATE_TEST_SUITE_P(AllSaves, SaveFault, testing::ValuesIn(AllSaves()),
-                         [](const auto& save) { return std::string(save.param.name); });
+INSTANTIATE_TEST_SUITE_P(AllSaves, SaveFault, testing::ValuesIn(AllSavesOnDisks()),
+                         [](const auto& save) { return NameOf(save.param); });

@@ -16,12 +16,6 @@
 #include "trending/TrendFile.h"
 #include "trending/TrendOutput.h"
 #include "trending/TrendSamples.h"
-#include <gtest/gtest.h>
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 constexpr int rowsOfAFile = 200;
@@ -112,21 +106,14 @@ void UploadProgram(const QString& folder, int content) {
     if (dialogs.LastText() != QStringLiteral("Program Upload Complete!"))
         throw RunTimeError(ErrorNumber::DiskFull); // a box told the user what went wrong
 }
-
-int ExitCodeOf(const std::function<void()>& work) {
-    try {
-        work();
-        return 0;
-    } catch (const RunTimeError&) {
-        return 0;
-    } catch (...) {
-        return 1;
-    }
-}
 } // namespace
 
-void PrintTo(const Save& save, std::ostream* out) {
-    *out << save.name;
+std::string NameOf(const SaveOnDisk& save) {
+    return std::string(save.save.name) + (save.namedTemporaries ? "Named" : "");
+}
+
+void PrintTo(const SaveOnDisk& save, std::ostream* out) {
+    *out << NameOf(save);
 }
 
 std::vector<Save> AllSaves() {
@@ -137,37 +124,10 @@ std::vector<Save> AllSaves() {
             {"Upload", UploadProgram}};
 }
 
-Files FilesBelow(const QString& folder) {
-    Files files;
-    QDirIterator found(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (found.hasNext()) {
-        QFile file(found.next());
-        if (file.open(QIODevice::ReadOnly))
-            files[QDir(folder).relativeFilePath(file.fileName())] = file.readAll();
-    }
-    return files;
-}
-
-void MakeFiles(const QString& folder, const Files& files) {
-    for (const auto& [name, bytes] : files) {
-        QFile file(folder + u'/' + name);
-        QDir().mkpath(QFileInfo(file.fileName()).path());
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            ADD_FAILURE() << "cannot write " << name.toStdString();
-    }
-}
-
-QString FastFolder() {
-    const QString memory = QStringLiteral("/dev/shm");
-    return (QDir(memory).exists() ? memory : QDir::tempPath()) + QStringLiteral("/proof-XXXXXX");
-}
-
-bool RunsToItsEnd(const std::function<void()>& work) {
-    const pid_t child = ::fork();
-    if (child == 0)
-        ::_exit(ExitCodeOf(work)); // no end of a test: the folders belong to the parent
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status) ? WTERMSIG(status) == SIGKILL : WEXITSTATUS(status) == 0);
-    return WIFEXITED(status);
+std::vector<SaveOnDisk> AllSavesOnDisks() {
+    std::vector<SaveOnDisk> saves;
+    for (const Save& save : AllSaves())
+        for (const bool named : {false, true})
+            saves.push_back({save, named});
+    return saves;
 }

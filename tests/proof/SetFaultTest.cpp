@@ -1,12 +1,12 @@
 #include "AnsweredDialogs.h"
 #include "base/Drives.h"
 #include "base/RunTimeError.h"
+#include "FilesOfRun.h"
 #include "programset/CopyProgramSet.h"
 #include "programset/DeleteProgramSet.h"
 #include "programset/FileOperations.h"
 #include "programset/NewProgramSet.h"
 #include "programset/RenameProgramSet.h"
-#include "Saves.h"
 #include "SpoiltCalls.h"
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -97,19 +97,6 @@ protected:
     const Files old_ = Set(QStringLiteral("OLD"), OldBytes);
 };
 
-std::string NameOf(Spoil how) {
-    switch (how) {
-    case Spoil::DeviceFails:
-        return "DeviceFails";
-    case Spoil::DiskStaysFull:
-        return "DiskStaysFull";
-    case Spoil::KilledBefore:
-        return "KilledBefore";
-    default:
-        return "KilledAfter";
-    }
-}
-
 void Rename(const QString& folder) {
     AnsweredDialogs dialogs(QStringLiteral("NEW"));
     DiskFileOperations files;
@@ -152,8 +139,7 @@ TEST_P(SetFault, ARenameKeepsEachFileWholeUnderOneNameOrBoth) {
             EXPECT_TRUE(newName.isEmpty() || newName == OldBytes(extension));
         }
         if (!outcome.killed) {
-            EXPECT_EQ(outcome.files,
-                      outcome.raised ? old_ : Set(QStringLiteral("NEW"), OldBytes));
+            EXPECT_EQ(outcome.files, outcome.raised ? old_ : Set(QStringLiteral("NEW"), OldBytes));
         }
         // All new files are made before the first old one goes.
         EXPECT_TRUE(IsWhole(outcome, old_) ||

@@ -21,6 +21,7 @@ struct Plan {
     int calls = 0;
 };
 Plan plan;
+bool unnamedRefused = false;
 
 enum class Room { Needed, NotNeeded };
 
@@ -87,6 +88,10 @@ int open64(const char* path, int flags, ...) {
         mode = va_arg(rest, mode_t);
         va_end(rest);
     }
+    if (unnamedRefused && (flags & O_TMPFILE) == O_TMPFILE) {
+        errno = EOPNOTSUPP;
+        return -1;
+    }
     if ((flags & O_ACCMODE) == O_RDONLY)
         return real(path, flags, mode);
     return Spoilt(Room::Needed, [&] { return real(path, flags, mode); });
@@ -144,6 +149,19 @@ int futimens(int file, const timespec times[2]) noexcept {
 }
 }
 
+std::string NameOf(Spoil how) {
+    switch (how) {
+    case Spoil::DeviceFails:
+        return "DeviceFails";
+    case Spoil::DiskStaysFull:
+        return "DiskStaysFull";
+    case Spoil::KilledBefore:
+        return "KilledBefore";
+    default:
+        return "KilledAfter";
+    }
+}
+
 SpoiltCalls::SpoiltCalls(int nth, Spoil how) {
     plan = {true, nth, how, 0};
 }
@@ -154,4 +172,12 @@ SpoiltCalls::~SpoiltCalls() {
 
 int SpoiltCalls::Count() const {
     return plan.calls;
+}
+
+NamedTemporaries::NamedTemporaries(bool named) {
+    unnamedRefused = named;
+}
+
+NamedTemporaries::~NamedTemporaries() {
+    unnamedRefused = false;
 }

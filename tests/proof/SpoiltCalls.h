@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 /// What goes wrong at a call by which the program changes the disk.
 enum class Spoil {
     DeviceFails,   ///< this call alone raises an input/output error and does nothing
@@ -7,6 +9,8 @@ enum class Spoil {
     KilledBefore,  ///< the process dies as by kill -9 before the call
     KilledAfter,   ///< and after it
 };
+
+std::string NameOf(Spoil how);
 
 /// Counts, for as long as it lives, the calls by which this process changes the disk (open for
 /// writing, write, flush to disk, link, rename, remove, make and remove a folder, set a time), and
@@ -22,4 +26,14 @@ public:
 
     /// Calls so far, the spoilt one included.
     int Count() const;
+};
+
+/// For as long as it lives the disk has no unnamed temporary files, like the file systems of memory
+/// sticks: a new file has a name beside the old one until it takes its place.
+class NamedTemporaries {
+public:
+    explicit NamedTemporaries(bool named);
+    ~NamedTemporaries();
+    NamedTemporaries(const NamedTemporaries&) = delete;
+    NamedTemporaries& operator=(const NamedTemporaries&) = delete;
 };
