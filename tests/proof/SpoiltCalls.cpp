@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -77,6 +78,15 @@ ssize_t write(int file, const void* bytes, size_t count) {
         return real(file, bytes, count / 2);
     }
     return Spoilt(Room::Needed, [&] { return real(file, bytes, count); });
+}
+
+ssize_t sendfile(int to, int from, off_t* offset, size_t count) noexcept {
+    SYSTEM(sendfile);
+    if (FillsUpHere() && count > 1) {
+        ++plan.calls;
+        return real(to, from, offset, count / 2);
+    }
+    return Spoilt(Room::Needed, [&] { return real(to, from, offset, count); });
 }
 
 int open64(const char* path, int flags, ...) {
