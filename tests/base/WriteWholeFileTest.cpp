@@ -110,6 +110,17 @@ TEST_F(WholeFile, AWriteThatFailsHalfwayIsError61AndTheOldFileStays) {
     EXPECT_EQ(folder.Names(), QStringList{name}) << "no temporary file is left";
 }
 
+// Contents below the size of a buffer are first written when the file is put in place.
+TEST_F(WholeFile, AWriteOfAFewBytesThatFailsIsError61AndTheOldFileStays) {
+    folder.Write(name, "old");
+    {
+        const FileSizeLimit limit(2);
+        ExpectError(61, [&] { WriteWholeFile(folder.Path(name), "new"); });
+    }
+    EXPECT_EQ(folder.Content(name), "old");
+    EXPECT_EQ(folder.Names(), QStringList{name}) << "no temporary file is left";
+}
+
 TEST_F(WholeFile, AFullDiskIsError61AndTheOldFileStays) {
     const QByteArray disk = folder.MakeFolder(QStringLiteral("disk")).toLocal8Bit();
     if (mount("tmpfs", disk.constData(), "tmpfs", 0, "size=16k") != 0)

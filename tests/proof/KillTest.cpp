@@ -20,7 +20,10 @@ protected:
     KilledSave() : folder_(FastFolder()) {
         MakeFiles(folder_.path(), {{QStringLiteral("PUMP.hdn"), "5\r\n"}});
         for (int content : {1, 0}) {
+            const auto begin = std::chrono::steady_clock::now();
             GetParam().save.run(folder_.path(), content);
+            saveTime_ = std::chrono::duration_cast<std::chrono::microseconds>(
+                std::chrono::steady_clock::now() - begin);
             whole_[content] = FilesBelow(folder_.path());
         }
     }
@@ -60,12 +63,13 @@ protected:
     const NamedTemporaries disk_{GetParam().namedTemporaries};
     QTemporaryDir folder_;
     Files whole_[2];
+    std::chrono::microseconds saveTime_{}; ///< what one save takes
 };
 } // namespace
 
 TEST_P(KilledSave, LeavesOneContentOrTheOtherAndTheNextSaveWorks) {
     std::mt19937 random(20261121);
-    std::uniform_int_distribution<int> moment(0, 2000); // microseconds: some 20 saves
+    std::uniform_int_distribution<qint64> moment(0, 3 * saveTime_.count() + 100);
     for (int kill = 0; kill < kills && !HasFailure(); ++kill) {
         SaveAndKill(std::chrono::microseconds(moment(random)));
         ExpectWhole();
