@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include "app/ResultViews.h"
 #include "app/StatusTableViews.h"
 #include "app/TargetBoardViews.h"
 #include "app/TransferViews.h"
@@ -46,6 +47,7 @@ void Application::RegisterViews() {
     targetBoard_ = std::make_unique<TargetBoardViews>(platform_, link_, loops_, window_);
     trending_ = std::make_unique<TrendingViews>(platform_, link_, loops_, transfers_->Jobs(),
                                                 transfers_->Runner(), window_);
+    results_ = std::make_unique<ResultViews>(platform_, window_);
     RegisterCopy();
 }
 

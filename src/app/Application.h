@@ -9,6 +9,7 @@
 
 class ProcessStart;
 class ReportPrinter;
+class ResultViews;
 class SerialPorts;
 class StatusTableViews;
 class TargetBoardViews;
@@ -61,4 +62,5 @@ private:
     std::unique_ptr<StatusTableViews> statusTable_;
     std::unique_ptr<TargetBoardViews> targetBoard_;
     std::unique_ptr<TrendingViews> trending_;
+    std::unique_ptr<ResultViews> results_;
 };

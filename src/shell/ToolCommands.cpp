@@ -11,6 +11,7 @@
 #include "programset/ProgramBoardIndex.h"
 #include "session/CommMode.h"
 #include "session/Globals.h"
+#include "session/HeldProgram.h"
 #include "shell/CommandSurface.h"
 #include "shell/ModalViews.h"
 #include "shell/ProgramBrowser.h"
@@ -110,13 +111,15 @@ void ToolCommands::GlobalSearch(bool BypassOpen, bool BypassInputBox) {
     context_.programs.SpawnRequest(searchProgram, BypassOpen, BypassInputBox, canceled);
     if (canceled || !CanBeSearched(ProgramBoardIndex(gHdnFile)))
         return;
-    const QString path = ChangeExtension(gHdnFile, QStringLiteral("gbl"));
+    const QString program = gHdnFile; // the user may select another set during the wait
+    const QString path = ChangeExtension(program, QStringLiteral("gbl"));
     if (!ResultsArrive(path)) {
         context_.dialogs.MsgBox(QStringLiteral("File Not Found ") + path, MsgStyle::Information,
                                 QStringLiteral("XSearch"));
         return;
     }
     resultsFound_();
+    const HeldProgram held(program);
     if (context_.views.frmViewResults)
         context_.views.frmViewResults(searchResults);
 }

@@ -173,16 +173,18 @@ void frmMain::HandleNode(NodeAction action, NodeHandler handler) {
 
 void frmMain::TreeNodeActivated(const QString& key) {
     const QString savedPath = gHdnFile;
-    gHdnFile = SelectedProgramPath();
+    const QString program = SelectedProgramPath();
+    gHdnFile = program;
     const auto handler = nodeHandlers_.find(ActionOfNode(key));
     try {
         if (handler != nodeHandlers_.end())
-            handler->second(OnDisk(ChangeExtension(gHdnFile, key)));
+            handler->second(OnDisk(ChangeExtension(program, key)));
     } catch (const RunTimeError& error) {
         ShowErrorBox(dialogs_, error, QStringLiteral("File List"), MsgStyle::Critical);
         return;
     }
-    gHdnFile = savedPath;
+    if (gHdnFile == program) // else the user has selected another set meanwhile: that one stays
+        gHdnFile = savedPath;
 }
 
 // The nodes that need no other view.
