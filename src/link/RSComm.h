@@ -9,6 +9,7 @@
 #include <optional>
 #include <QString>
 #include <QStringList>
+#include <span>
 
 class ApplicationFolder;
 class BusyDisplay;
@@ -29,9 +30,24 @@ namespace LinkMode {
 constexpr int None = 0;
 constexpr int Read = 1;
 constexpr int Write = 2;
+constexpr int PLSChannel = 3;
 constexpr int PLSReadWord = 4;
+constexpr int PLSWriteWord = 5;
+constexpr int PLSRecall = 6;
+constexpr int PLSBlock = 7;
+constexpr int PLSTable = 8;
 constexpr int Program = 9;
 } // namespace LinkMode
+
+/// Values of a limit switch board's configuration as the board hands them out, 0 to 255 each.
+using PLSConfigTable = std::array<qint16, 19>;
+
+/// What ChannelRecallState holds besides the two kinds of edge.
+namespace RecallState {
+constexpr qint16 OffEdge = 0;
+constexpr qint16 OnEdge = 1;
+constexpr qint16 None = 2; ///< nothing is programmed, or the recall failed
+} // namespace RecallState
 
 /// The one object through which every byte to or from a target board passes.
 ///
@@ -112,6 +128,41 @@ public:
     /// Firmware revision of the board; -1 while offline or in a communication failure.
     qint16 FirmwareRev();
 
+    // Limit switch boards. Channels are plain numbers 0 to 63, positions are divisions of the
+    // machine's cycle. Each command does its own handshake; those that write end when the board
+    // reports ready, and false tells that the board may not have taken them. A command that a
+    // time-out struck is never sent on: what the board holds of it is made void, and the caller
+    // decides whether to send it again.
+
+    /// Divisions of a cycle, position less offset, turns a minute: in decimal, "-9999" on failure.
+    QString PLSScaleFactor();
+    QString PLSPos();
+    QString PLSRpm();
+    /// Adds one setpoint to a channel; with `ClearChan` those before go first. A position from the
+    /// scale factor up is refused with a box, a negative one and an unknown channel without.
+    bool SingleSetpoint(qint16 Chan, qint16 OnSetpoint, qint16 OffSetpoint, bool ClearChan);
+    /// Programs a channel with pulses all round, from START_Division on. Divisions 1 to 255 whose
+    /// sum divides the scale factor; anything else is refused with a box.
+    bool PulseTrain(qint16 Chan, qint16 ON_Division, qint16 OFF_Division, qint16 START_Division);
+    /// Takes all setpoints from a channel.
+    bool ClearPLSChan(qint16 Chan);
+    /// Reads the next edge of a channel; the board goes round and keeps a place for each channel.
+    /// What it read stands in the two members below.
+    bool RecallChannel(qint16 Chan);
+    /// Position of the edge last recalled, 0 to 4351; 0 after a failure.
+    qint16 ChannelRecallPos() const { return channelRecallPos_; }
+    /// What was last recalled: a RecallState, or what else the board answered.
+    qint16 ChannelRecallState() const { return channelRecallState_; }
+    /// Sets the offset so that the present position reads as `Position`, 0 to the scale factor; a
+    /// higher one is refused with a box.
+    bool SetPLSOffset(qint16 Position);
+    /// Sends the first 24 values of `CfgParam`, 0 to 255 each, as four blocks and then the scale
+    /// factor, with which the board takes them over. Values that are no bytes are refused.
+    bool PLSConfigDownload(std::span<const qint16> CfgParam, qint16 ScaleFactor);
+    /// Reads the configuration. A failure is reported by a box and leaves CommError set; the table
+    /// is the one read before then.
+    const PLSConfigTable& PLSConfigUpload();
+
     // Programs.
 
     /// Names a program set for DumpProgram and checks it; ValidProgram tells the outcome. Shows
@@ -168,7 +219,9 @@ private:
     void SendByte(std::uint8_t byte);
     bool UserRetries(const QString& text);
     bool UserRetriesLine();
-    bool SetTargetMode(int mode, std::uint8_t modeByte);
+    bool SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes = 0);
+    bool BoardAwaitsCommand(int mode);
+    void LetLineFallQuiet();
     void WaitSeconds(double seconds);
 
     // RSCommVariables.cpp: read and write mode.
@@ -184,8 +237,24 @@ private:
     bool EchoedAlike(std::uint8_t byte, bool& answered);
     void RefuseEntry(const QString& reason);
 
-    // RSCommBoard.cpp: commands of limit switch boards.
+    // RSCommPLSShapes.cpp: the shapes of the limit switch commands on the line.
     int ReadPLSWord(std::uint8_t command);
+    bool ReadPLSBytes(int mode, std::uint8_t command, std::span<std::uint8_t> bytes);
+    bool ClockBytes(int mode, std::span<std::uint8_t> bytes);
+    bool SendPLSData(int mode, std::uint8_t command, std::span<const std::uint8_t> data);
+    bool WritePLS(int mode, std::uint8_t command, std::span<const std::uint8_t> data);
+    bool WritePLSWord(std::uint8_t command, int value);
+    bool WriteChannelRecord(std::uint8_t command, qint16 channel, int first, int second, bool flag);
+    bool WaitPLSReady();
+    bool BoardSaysReady(int mode);
+    bool ReadEdge(qint16 channel, std::array<std::uint8_t, 3>& edge, bool& mayBeGiven);
+
+    // RSCommPLS.cpp: commands of limit switch boards.
+    static bool IsPLSChannel(qint16 channel);
+    void RefusePLS(const QString& text, const QString& title);
+    bool SetpointFits(qint16 setpoint, int scaleFactor);
+    static QString PulseTrainRefusal(qint16 onDivision, qint16 offDivision, qint16 start,
+                                     int scaleFactor);
 
     // RSCommProgramSet.cpp: the files of a program set.
     void SetProgramIdent(const QString& revFile);
@@ -240,6 +309,7 @@ private:
     int operations_ = 0;
 
     int linkMode_ = LinkMode::None;
+    int dataOwed_ = 0; // data bytes of a command that the board may still be waiting for
     bool writeFailed_ = false;
     bool portSettingsBad_ = false;
 
@@ -247,6 +317,10 @@ private:
     std::optional<QString> lastVariable_; // the text that parsed_ was made from by a read
     int lastByteCount_ = 0;               // 1, 2 or 4
     std::array<std::uint8_t, 4> lastBytes_{};
+
+    qint16 channelRecallPos_ = 0;
+    qint16 channelRecallState_ = 0;
+    PLSConfigTable plsConfig_{};
 
     QString currentProgramAdd_;
     bool writingIdent_ = false;

@@ -8,12 +8,6 @@
 #include "link/TargetBoards.h"
 #include "link/VariableAddress.h"
 
-namespace {
-constexpr std::uint8_t clockByte = 0x55; // asks for the next data byte
-constexpr std::uint8_t readOffsetCommand = 0x28;
-constexpr int failedPLSRead = -9999;
-} // namespace
-
 QString RSComm::TargetboardName(qint16 BoardType) {
     return ::TargetboardName(BoardType);
 }
@@ -68,27 +62,4 @@ qint16 RSComm::FirmwareRev() {
         return -1;
     const Operation operation(*this);
     return static_cast<qint16>(WholeNumberValue(ReadVariable(QStringLiteral("B8159"))));
-}
-
-QString RSComm::PLSOffset() {
-    const Operation operation(*this);
-    return QString::number(ReadPLSWord(readOffsetCommand));
-}
-
-// The reads of a limit switch board are commands: each does its own handshake. A time-out on the
-// way leaves the mode: what then answered was the acknowledge of an attention and no data byte.
-int RSComm::ReadPLSWord(std::uint8_t command) {
-    const auto failed = [this](int reply) {
-        return reply == noReply || linkMode_ != LinkMode::PLSReadWord;
-    };
-    if (!SetTargetMode(LinkMode::PLSReadWord, command))
-        return failedPLSRead;
-    const int low = ExchangeByte(clockByte);
-    if (failed(low))
-        return failedPLSRead;
-    const int high = ExchangeByte(clockByte);
-    if (failed(high))
-        return failedPLSRead;
-    linkMode_ = LinkMode::None;
-    return high * 256 + low;
 }

@@ -13,6 +13,11 @@ constexpr double firstReplyTime = 1.0;  // seconds until the first time-out
 constexpr double resyncReplyTime = 2.0; // seconds after each resynchronising attention
 constexpr int timeOutsBeforeAlert = 3;  // 1 + 2 + 2 seconds on a dead line
 constexpr double handshakeTime = 2.0;   // seconds in which a mode must be entered
+constexpr double quietLineTime = 0.05;  // seconds in which a late acknowledge is still waited for
+
+bool IsPLSMode(int mode) {
+    return mode >= LinkMode::PLSChannel && mode <= LinkMode::PLSTable;
+}
 
 QString CannotCommunicate() {
     return QStringLiteral("Cannot Communicate with Target Board.\r"
@@ -128,11 +133,17 @@ void RSComm::WaitSeconds(double seconds) {
         clock_.Wait(std::min(deadline, display.Look(now)) - now);
 }
 
+// Lets the late reply that a time-out gave up arrive, so that the next exchange which clears the
+// input buffer throws it away. Without this all further replies come one byte behind.
+void RSComm::LetLineFallQuiet() {
+    WaitSeconds(quietLineTime);
+}
+
 // Enters a link mode: attention and the mode byte, each to be acknowledged. When the mode byte
 // timed out, what then answered was the acknowledge of an attention and the board waits for a
 // command: an address byte 0x03 sent now would stop the machine in program mode. The handshake
-// starts over.
-bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
+// starts over. `dataBytes` is what the board takes after the mode byte without looking at it.
+bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes) {
     linkMode_ = LinkMode::None;
     double deadline = clock_.MonotonicSeconds() + handshakeTime;
     for (;;) {
@@ -145,9 +156,11 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
             }
             deadline = clock_.MonotonicSeconds() + handshakeTime;
         }
+        linkMode_ = mode; // a time-out takes it back
         int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
-        if (reply == acknowledge) {
-            linkMode_ = mode; // a time-out takes it back
+        if (reply == acknowledge && BoardAwaitsCommand(mode)) {
+            linkMode_ = mode;
+            dataOwed_ = dataBytes;
             reply = ExchangeByte(modeByte);
             if (reply == acknowledge && linkMode_ == mode)
                 return true;
@@ -156,4 +169,22 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte) {
         if (reply == noReply)
             return false;
     }
+}
+
+// Whether an acknowledged attention means that the board waits for a command. Where it takes data
+// it takes an attention for data too, and acknowledges it: a command that was cut short is first
+// filled up with attentions, of which only those count that were answered in time. The limit
+// switch commands have no echo: an acknowledge that comes late would pass for their data, so after
+// a time-out the line must be quiet before they begin.
+bool RSComm::BoardAwaitsCommand(int mode) {
+    const bool timedOut = linkMode_ != mode;
+    if (dataOwed_ > 0) {
+        dataOwed_ -= timedOut ? 0 : 1;
+        return false;
+    }
+    if (timedOut && IsPLSMode(mode)) {
+        LetLineFallQuiet();
+        return false;
+    }
+    return true;
 }

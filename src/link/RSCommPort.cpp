@@ -85,6 +85,8 @@ void RSComm::ReportPortError(const RunTimeError& error) {
 void RSComm::CloseRSComm() {
     const Operation operation(*this);
     if (port_ && port_->PortOpen()) {
+        for (; dataOwed_ > 0 && !commError_; --dataOwed_) // fills up a command that was cut short
+            ExchangeByte(attention);
         if (!commError_)
             ExchangeByte(attention);
         try {

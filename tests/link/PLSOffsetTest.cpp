@@ -63,22 +63,27 @@ TEST_F(PLSOffset, NoHighByteGivesMinus9999) {
     EXPECT_EQ(link.PLSOffset(), QStringLiteral("-9999"));
 }
 
-TEST_F(PLSOffset, AnAttentionThatAnswersTheLowByteGivesMinus9999) {
+TEST_F(PLSOffset, AnAttentionThatAnswersTheLowByteStartsTheReadOver) {
     AcceptHandshake();
     port.Silence();
     port.Reply(0x55); // the attention after the time-out
-    EXPECT_EQ(link.PLSOffset(), QStringLiteral("-9999"));
+    AcceptHandshake();
+    port.Replies({0x2C, 0x01});
+    EXPECT_EQ(link.PLSOffset(), QStringLiteral("300"));
     EXPECT_FALSE(link.CommError());
-    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x28, 0x55, 0xFF}));
+    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x28, 0x55, 0xFF, 0xFF, 0x28, 0x55, 0x55}));
 }
 
-TEST_F(PLSOffset, AnAttentionThatAnswersTheHighByteGivesMinus9999) {
-    AcceptHandshake();
-    port.Reply(0x2C);
-    port.Silence();
-    port.Reply(0x55);
+TEST_F(PLSOffset, AnAttentionThatAnswersTwiceGivesMinus9999) {
+    for (int i = 0; i < 2; ++i) {
+        AcceptHandshake();
+        port.Reply(0x2C);
+        port.Silence();
+        port.Reply(0x55);
+    }
     EXPECT_EQ(link.PLSOffset(), QStringLiteral("-9999"));
-    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x28, 0x55, 0x55, 0xFF}));
+    EXPECT_FALSE(link.CommError());
+    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0x28, 0x55, 0x55, 0xFF, 0xFF, 0x28, 0x55, 0x55, 0xFF}));
 }
 
 TEST_F(PLSOffset, WithCommErrorItIsMinus9999AndNothingIsSent) {
