@@ -43,6 +43,7 @@ EOF
 longest() {
   case $1 in
     link | datafile) echo 192 ;; # each byte is an exchange with the board
+    ldt) echo 20000 ;;           # beyond the last address
     *) echo 512 ;;
   esac
 }
