@@ -6,7 +6,8 @@
 #
 # INPUTS is 5000000 unless given, FOLDER build/fuzz/record, the targets all of them. FOLDER keeps
 # a log a target, the corpus, the table (table.md) and every input that failed. A target whose
-# row stands in the table already is not run again, so that a run that was stopped goes on.
+# row stands in the table already is not run again, so that a run that was stopped goes on. Exit
+# code 1 if a target failed.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -51,6 +52,7 @@ longest() {
 # Coverage at the first or last status line of libFuzzer that has one.
 coverage() { grep -ao "$2.* cov: [0-9]*" "$1" | sed 's/.*cov: //' | tail -n 1; }
 
+failed=0
 for target in "${targets[@]}"; do
   grep -q "^| $target |" "$table" && continue
   folder=$out/$target
@@ -69,5 +71,7 @@ for target in "${targets[@]}"; do
   printf '| %s | %s | %s | %s | %s | %s | %s |\n' "$target" "${done_inputs:-?}" "$seconds" \
     "$((${done_inputs:-0} / (seconds > 0 ? seconds : 1)))" "$(coverage "$log" INITED)" \
     "$(coverage "$log" '')" "$failures" | tee -a "$table"
+  [ "$failures" -eq 0 ] || failed=1
 done
 printf 'Table: %s\n' "$table"
+exit $failed
