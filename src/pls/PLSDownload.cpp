@@ -38,10 +38,11 @@ void PLSJobs::DownloadPLSChannels(JobProgress& progress) {
     }
 }
 
-// What could not be read is not sent: a blank record would clear the board.
+// What could not be read is not sent: a blank record would clear the board. Nor may what is left of
+// it count as a changed configuration, which the timing view would offer to send.
 void PLSJobs::Download(JobProgress& progress) {
     if (!ReadPLSFileData(gHdnFile, dialogs_)) {
-        ReportFailedConfiguration();
+        EndWithoutConfiguration();
         return;
     }
     if (!SendConfiguration())
@@ -65,16 +66,15 @@ bool PLSJobs::SendConfiguration() {
         link_.PLSConfigDownload(BuildPLSConfigArray(ProgramBoardIndex(gHdnFile)), gPLS.ScaleFactor);
     if (link_.CommError())
         return false;
-    if (!sent) {
-        ReportFailedConfiguration();
-        gPLSSnapshot = gPLS;
-    }
+    if (!sent)
+        EndWithoutConfiguration();
     return sent;
 }
 
-void PLSJobs::ReportFailedConfiguration() {
+void PLSJobs::EndWithoutConfiguration() {
     dialogs_.MsgBox(QStringLiteral("Unable to Successfully Download the PLS Configuration"),
                     MsgStyle::Exclamation, QStringLiteral("PLS Config Download"));
+    gPLSSnapshot = gPLS;
 }
 
 // The first setpoint takes those before out of the board.
