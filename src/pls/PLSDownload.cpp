@@ -38,11 +38,10 @@ void PLSJobs::DownloadPLSChannels(JobProgress& progress) {
     }
 }
 
-// What could not be read is not sent: a blank record would clear the board. Nor may what is left of
-// it count as a changed configuration, which the timing view would offer to send.
+// What could not be read is not sent: a blank record would clear the board.
 void PLSJobs::Download(JobProgress& progress) {
     if (!ReadPLSFileData(gHdnFile, dialogs_)) {
-        EndWithoutConfiguration();
+        ReportFailedConfiguration();
         return;
     }
     if (!SendConfiguration())
@@ -66,15 +65,16 @@ bool PLSJobs::SendConfiguration() {
         link_.PLSConfigDownload(BuildPLSConfigArray(ProgramBoardIndex(gHdnFile)), gPLS.ScaleFactor);
     if (link_.CommError())
         return false;
-    if (!sent)
-        EndWithoutConfiguration();
+    if (!sent) {
+        ReportFailedConfiguration();
+        gPLSSnapshot = gPLS;
+    }
     return sent;
 }
 
-void PLSJobs::EndWithoutConfiguration() {
+void PLSJobs::ReportFailedConfiguration() {
     dialogs_.MsgBox(QStringLiteral("Unable to Successfully Download the PLS Configuration"),
                     MsgStyle::Exclamation, QStringLiteral("PLS Config Download"));
-    gPLSSnapshot = gPLS;
 }
 
 // The first setpoint takes those before out of the board.

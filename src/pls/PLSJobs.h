@@ -46,7 +46,7 @@ private:
     // PLSDownload.cpp
     void Download(JobProgress& progress);
     bool SendConfiguration();
-    void EndWithoutConfiguration();
+    void ReportFailedConfiguration();
     void DownloadChannel(qint16 channel, JobProgress& progress);
     void ReportFailedSetpoint(qint16 channel);
 

@@ -1,5 +1,4 @@
 #include "pls/jobs/PLSJobsFixture.h"
-#include "pls/PLSConfigTable.h"
 
 namespace {
 class DownloadPLS : public PLSJobsFixture {
@@ -134,19 +133,6 @@ TEST_F(DownloadPLS, ASetOfAnotherKindOfBoardSendsNothing) {
     const int before = RepliesSoFar();
     Download();
     EXPECT_EQ(RepliesSoFar(), before);
-}
-
-// The timing view offers a changed configuration to the board: this one must never get there.
-TEST_F(DownloadPLS, WhatIsLeftOfFilesThatCannotBeReadIsNoChangedConfiguration) {
-    Configure(16, 360);
-    gPLSSnapshot = gPLS;
-    WriteSetFile("PCF", "1699999" + QByteArray(41, '0') + "%\r\n");
-    WriteSetFile("CHL", ":0360\r\n:0000\r\n|00100020\r\n");
-    dialogs.ExpectBoxTitled(QStringLiteral("ReadPLSFileData()"), MsgAnswer::Ok);
-    dialogs.ExpectBoxTitled(QStringLiteral("PLS Config Download"), MsgAnswer::Ok);
-    Download();
-    EXPECT_NE(gPLS.ScaleFactor, 360);
-    EXPECT_FALSE(ConfigChanged());
 }
 
 TEST_F(DownloadPLS, WhatIsUploadedAgainGivesTheFilesBack) {
