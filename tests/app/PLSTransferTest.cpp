@@ -4,6 +4,7 @@
 #include "session/Globals.h"
 #include "WholeProgram.h"
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 
