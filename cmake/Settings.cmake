@@ -11,6 +11,16 @@ if(QUENTOR_SANITIZE)
   target_link_options(quentor_settings INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(QUENTOR_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID MATCHES Clang)
+    message(FATAL_ERROR "QUENTOR_FUZZ needs clang: cmake --preset fuzz")
+  endif()
+  set(fuzz_flags -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow)
+  target_compile_options(quentor_settings INTERFACE ${fuzz_flags} -fno-sanitize-recover=all
+                                                    -fno-omit-frame-pointer)
+  target_link_options(quentor_settings INTERFACE ${fuzz_flags})
+endif()
+
 # ccache takes precompiled headers only when it is told that their defines and times may differ.
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)

@@ -5,6 +5,10 @@
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev qt6-svg-dev
   libgl-dev libgtest-dev libgmock-dev fonts-dejavu-core)
 
+# What the fuzz programs need besides (scripts/fuzz-record.sh).
+# shellcheck disable=SC2034
+fuzz_packages=(clang libclang-rt-14-dev)
+
 say() { printf '%s\n' "$*" >&2; }
 
 is_installed() { dpkg-query -W -f '${Status}' "$1" 2>/dev/null | grep -q 'ok installed'; }

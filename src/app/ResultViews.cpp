@@ -25,10 +25,12 @@ bool CanFindIn(const QString& hdnFile) {
 } // namespace
 
 ResultViews::ResultViews(const Platform& platform, frmMDIMain& window)
-    : platform_(platform), window_(window) {
+    : platform_(platform), window_(window), activation_(window.Children(), ViewName(), [this] {
+          if (view_)
+              view_->Activate();
+      }) {
     RegisterViews();
     RegisterCommands();
-    connect(&window_.Children(), &MdiChildren::ActiveChanged, this, &ResultViews::FollowActiveView);
     connect(window_.Commands().Menu(QStringLiteral("mnuStatusTable")), &QMenu::aboutToShow, this,
             &ResultViews::RefreshFind);
 }
@@ -72,13 +74,6 @@ void ResultViews::ShowDocumentation(const QString& hdnFile) {
     frmEditDoc view(platform_.dialogs, &window_);
     view.InitializeVar(files.BuildPath(files.GetParentFolderName(full), files.GetBaseName(full)));
     view.exec();
-}
-
-void ResultViews::FollowActiveView() {
-    const bool active = window_.Children().ActiveName() == ViewName();
-    if (view_ && active && !active_)
-        view_->Activate();
-    active_ = active;
 }
 
 QString ResultViews::TableProgram() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ChildActivation.h"
 #include "results/views/frmViewResults.h"
 #include <QObject>
 #include <QPointer>
@@ -22,7 +23,6 @@ private:
     frmViewResults& View();
     void ShowResults(qint16 mode);
     void ShowDocumentation(const QString& hdnFile);
-    void FollowActiveView();
 
     /// Path of the set whose variables the status table shows; empty when none.
     QString TableProgram() const;
@@ -35,5 +35,5 @@ private:
     const Platform& platform_;
     frmMDIMain& window_;
     QPointer<frmViewResults> view_;
-    bool active_ = false;
+    ChildActivation activation_;
 };

@@ -29,12 +29,19 @@ private:
 
 StatusTableViews::StatusTableViews(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
                                    WaitJobs& jobs, JobRunner& runner, frmMDIMain& window)
-    : window_(window), printer_(platform.printer) {
+    : window_(window), printer_(platform.printer), activation_(
+                                                       window.Children(), ViewName(),
+                                                       [this] {
+                                                           if (view_)
+                                                               view_->Activate();
+                                                       },
+                                                       [this] {
+                                                           if (view_)
+                                                               view_->Deactivate();
+                                                       }) {
     window_.Children().Register(ViewName(), [this, platform, &link, &loops, &jobs, &runner] {
         return MakeView(platform, link, loops, jobs, runner);
     });
-    connect(&window_.Children(), &MdiChildren::ActiveChanged, this,
-            &StatusTableViews::FollowActiveView);
     window_.Views().mayClose = [this] { return MayClose(); };
     RegisterCommands();
     RegisterPrinting(platform, jobs);
@@ -85,17 +92,6 @@ void StatusTableViews::RegisterPrinting(const Platform& platform, WaitJobs& jobs
 void StatusTableViews::CopyCells() {
     if (view_)
         view_->StatusTableCopyClip();
-}
-
-void StatusTableViews::FollowActiveView() {
-    const bool active = window_.Children().ActiveName() == ViewName();
-    if (!view_ || active == active_)
-        return;
-    active_ = active;
-    if (active)
-        view_->Activate();
-    else
-        view_->Deactivate();
 }
 
 bool StatusTableViews::MayClose() {

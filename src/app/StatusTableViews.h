@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ChildActivation.h"
 #include "statustable/views/StatusTableHost.h"
 #include <QObject>
 #include <QPointer>
@@ -31,7 +32,6 @@ private:
                       JobRunner& runner);
     void RegisterCommands();
     void RegisterPrinting(const Platform& platform, WaitJobs& jobs);
-    void FollowActiveView();
     bool MayClose();
 
     // StatusTableHost
@@ -44,5 +44,5 @@ private:
     frmMDIMain& window_;
     ReportPrinter& printer_;
     QPointer<frmStatusTable> view_;
-    bool active_ = false;
+    ChildActivation activation_;
 };

@@ -12,11 +12,13 @@ QString ViewName() {
 
 TimingViews::TimingViews(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
                          JobRunner& runner, frmMDIMain& window)
-    : window_(window) {
+    : window_(window), activation_(window.Children(), ViewName(), [this] {
+          if (view_)
+              view_->Activate();
+      }) {
     window_.Children().Register(ViewName(), [this, platform, &link, &loops, &runner] {
         return MakeView(platform, link, loops, runner);
     });
-    connect(&window_.Children(), &MdiChildren::ActiveChanged, this, &TimingViews::FollowActiveView);
     window_.Commands().Handle(QStringLiteral("mnuToolsPLSProgramming"), [this] { ShowTiming(); });
 }
 
@@ -31,16 +33,6 @@ void TimingViews::ShowTiming() {
     window_.Children().Show(ViewName());
     if (view_ && view_->ChannelGrid().isEnabled())
         view_->ChannelGrid().setFocus();
-}
-
-// A view that was closed and is shown again while no other took its place is activated anew too.
-void TimingViews::FollowActiveView() {
-    const bool active = window_.Children().ActiveName() == ViewName();
-    if (!view_ || active == active_)
-        return;
-    active_ = active;
-    if (active)
-        view_->Activate();
 }
 
 TimingView TimingViews::View() {

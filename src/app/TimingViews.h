@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ChildActivation.h"
 #include "app/PLSTransfer.h"
 #include <QObject>
 #include <QPointer>
@@ -27,9 +28,8 @@ private:
     QWidget* MakeView(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
                       JobRunner& runner);
     void ShowTiming();
-    void FollowActiveView();
 
     frmMDIMain& window_;
     QPointer<frmTiming> view_;
-    bool active_ = false;
+    ChildActivation activation_;
 };

@@ -11,12 +11,19 @@ QString ViewName() {
 
 TrendingViews::TrendingViews(const Platform& platform, RSComm& link, ViewLoopRunner& loops,
                              WaitJobs& jobs, JobRunner& runner, frmMDIMain& window)
-    : window_(window) {
+    : window_(window), activation_(
+                           window.Children(), ViewName(),
+                           [this] {
+                               if (view_)
+                                   view_->Activate();
+                           },
+                           [this] {
+                               if (view_)
+                                   view_->Deactivate();
+                           }) {
     window_.Children().Register(ViewName(), [this, platform, &link, &loops, &jobs, &runner] {
         return MakeView(platform, link, loops, jobs, runner);
     });
-    connect(&window_.Children(), &MdiChildren::ActiveChanged, this,
-            &TrendingViews::FollowActiveView);
     RegisterCommands();
 }
 
@@ -49,17 +56,6 @@ void TrendingViews::RegisterCommands() {
 void TrendingViews::CopyGraph() {
     if (view_ && window_.Children().IsVisible(ViewName()))
         view_->CopyGraph();
-}
-
-void TrendingViews::FollowActiveView() {
-    const bool active = window_.Children().ActiveName() == ViewName();
-    if (!view_ || active == active_)
-        return;
-    active_ = active;
-    if (active)
-        view_->Activate();
-    else
-        view_->Deactivate();
 }
 
 // Which entries show follows from the view that is active.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ChildActivation.h"
 #include "trending/views/frmTrending.h"
 #include <QObject>
 #include <QPointer>
@@ -27,7 +28,6 @@ private:
     QWidget* MakeView(const Platform& platform, RSComm& link, ViewLoopRunner& loops, WaitJobs& jobs,
                       JobRunner& runner);
     void RegisterCommands();
-    void FollowActiveView();
 
     // TrendingHost
     void ShowTrendCommands(bool shown) override;
@@ -35,5 +35,5 @@ private:
 
     frmMDIMain& window_;
     QPointer<frmTrending> view_;
-    bool active_ = false;
+    ChildActivation activation_;
 };

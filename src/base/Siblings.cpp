@@ -1,11 +1,12 @@
 #include "base/Siblings.h"
 
+#include <optional>
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
-// Name of the entry of `folder` that matches `name` but for letter case; `name` if there is none.
-QString EntryOnDisk(const QString& folder, const QString& name) {
+// Name of the entry of `folder` that matches `name` but for letter case, if there is one.
+std::optional<QString> EntryOnDisk(const QString& folder, const QString& name) {
     if (name == QLatin1String(".") || name == QLatin1String("..") ||
         QFileInfo::exists(folder + u'/' + name))
         return name;
@@ -14,7 +15,7 @@ QString EntryOnDisk(const QString& folder, const QString& name) {
     for (const QString& entry : entries)
         if (entry.compare(name, Qt::CaseInsensitive) == 0)
             return entry;
-    return name;
+    return std::nullopt;
 }
 
 QString WithSlashes(const QString& path) {
@@ -27,9 +28,15 @@ QString OnDiskBelow(const QString& folder, const QString& relative) {
     while (found.size() > 1 && found.endsWith(u'/'))
         found.chop(1);
     const QStringList parts = WithSlashes(relative).split(u'/', Qt::SkipEmptyParts);
+    bool searching = true; // nothing stands below a part that does not exist
     for (const QString& part : parts) {
-        const QString entry = EntryOnDisk(found.isEmpty() ? QStringLiteral("/") : found, part);
-        found = found == QLatin1String("/") ? found + entry : found + u'/' + entry;
+        std::optional<QString> entry;
+        if (searching)
+            entry = EntryOnDisk(found.isEmpty() ? QStringLiteral("/") : found, part);
+        searching = entry.has_value();
+        if (found != QLatin1String("/"))
+            found += u'/';
+        found += entry.value_or(part);
     }
     return found;
 }

@@ -10,6 +10,7 @@
 
 namespace {
 constexpr qsizetype longestItem = 16 * 1024 * 1024; // characters; no file of the system comes near
+constexpr qint64 longestFile = 64 * 1024 * 1024;    // bytes; likewise
 
 bool IsLineEnd(char byte) {
     return byte == '\r' || byte == '\n';
@@ -40,6 +41,8 @@ TextReader::TextReader(const QString& path) : file_(OnDisk(path)) {
     RefuseUnreadable(file_.fileName());
     if (!file_.open(QIODevice::ReadOnly))
         throw RunTimeError(ErrorNumber::PermissionDenied);
+    if (file_.size() > longestFile)
+        throw RunTimeError(ErrorNumber::OutOfMemory);
 }
 
 bool TextReader::AtEnd() {

@@ -8,7 +8,9 @@
 /// Reading of the system's text files: Windows-1252 bytes, lines ended by CR LF or by LF alone.
 /// The path is looked up whatever the letter case of its name on disk. Every operation raises a
 /// RunTimeError when the file fails: 53 not found, 76 folder not found, 70 permission denied,
-/// 75 no plain file, 57 device error, 7 an item of more than 16 million characters.
+/// 75 no plain file, 57 device error, 7 a file of more than 64 MiB or an item of more than 16
+/// million characters: far more than any file of the system holds, and what a reader makes of it
+/// would fill the memory.
 class TextReader {
 public:
     /// Opens the file.

@@ -49,6 +49,12 @@ QString ChosenFile(QFileDialog& dialog, const FileDialogRequest& request) {
 }
 } // namespace
 
+QString SavedSuffix(const QString& filter) {
+    const QString pattern = filter.section(u'|', 1, 1);
+    const QString suffix = pattern.startsWith(QStringLiteral("*.")) ? pattern.mid(2) : QString();
+    return suffix.contains(u'*') || suffix.contains(u';') ? QString() : suffix;
+}
+
 QStringList NameFilters(const QString& filter) {
     const QStringList parts = filter.split(u'|');
     QStringList result;
@@ -103,6 +109,7 @@ QString QtDialogs::ShowSave(const FileDialogRequest& request) {
     dialog.setFileMode(QFileDialog::AnyFile);
     const bool asks = (request.flags & DialogFlag::OverwritePrompt) != 0;
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !asks);
+    dialog.setDefaultSuffix(SavedSuffix(request.filter));
     return ChosenFile(dialog, request);
 }
 

@@ -19,3 +19,7 @@ public:
 /// without a pattern of its own, then the patterns in both letter cases in brackets. Patterns are
 /// parted by semicolons: "Halden Files(*.hdn)|*.hdn|" gives "Halden Files (*.hdn *.HDN)".
 QStringList NameFilters(const QString& filter);
+
+/// What is added to a name without a suffix when a file is saved, so that the same filter shows it
+/// again: "tdt" of "Trend Data(*.tdt)|*.tdt|". Empty where the first pattern is no single suffix.
+QString SavedSuffix(const QString& filter);

@@ -15,7 +15,8 @@
 #include <algorithm>
 
 namespace {
-constexpr int firstChannelLine = 2; // the lines before it hold scale and offset
+constexpr int firstChannelLine = 2;        // the lines before it hold scale and offset
+constexpr qsizetype mostLines = 1'000'000; // of a .CHL file; all channels full take a seventh
 constexpr Setpoint placeholder{};
 
 qint16 NumberOf(QStringView digits) {
@@ -104,8 +105,11 @@ void ReadCHLFile(const PLSLayout& layout) {
         return;
     }
     QStringList lines;
-    for (TextReader file(gPLS.CHLPath); !file.AtEnd();)
+    for (TextReader file(gPLS.CHLPath); !file.AtEnd();) {
+        if (lines.size() == mostLines)
+            throw RunTimeError(ErrorNumber::OutOfMemory);
         lines += ReadCHLLine(file);
+    }
     CHLLines channels(layout);
     for (const QString& line : lines.mid(firstChannelLine))
         channels.Take(line);

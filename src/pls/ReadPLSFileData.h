@@ -9,5 +9,6 @@ class Dialogs;
 /// True on success; false for a set of no limit switch board, which leaves gPLS blank, and after an
 /// error, which is reported in a box; gPLS then keeps what was read before it. A set of board index
 /// 68 counts as the R6500 layout without files. Errors besides those of TextReader: 6 for a number
-/// beyond 16 bits, 9 for a channel beyond 64 places and for a setpoint that stands in no channel.
+/// beyond 16 bits, 9 for a channel beyond 64 places and for a setpoint that stands in no channel,
+/// 7 for a .CHL file of more than a million lines.
 bool ReadPLSFileData(const QString& HdnFile, Dialogs& dialogs);

@@ -44,6 +44,7 @@ private:
     void UploadFromPLC();
     void RefreshBrowser();
     void ShowDownloadedChannels();
+    bool RunUpload();
     void SavePLSFiles();
 
     TransferContext context_;

@@ -52,12 +52,14 @@ void TransferCommands::mnuFileListPopupDownloadToPLS_Click() {
         ShowDownloadedChannels();
 }
 
-// The timing view shows what the board holds, so it is read back.
+// The timing view shows what the board holds, so it is read back; also over what is left of files
+// that could not be read, which the view would take for an edit of its own.
 void TransferCommands::ShowDownloadedChannels() {
     const PLSRoute& pls = *context_.views.pls;
-    if (!pls.timingVisible() || !pls.gFirstPassOnline() || !pls.ReadPLSFileData(gHdnFile))
+    if (!pls.timingVisible() || !pls.gFirstPassOnline())
         return;
-    pls.RunWaitJob(uploadChannels);
+    if (pls.ReadPLSFileData(gHdnFile))
+        pls.RunWaitJob(uploadChannels);
     if (!context_.link.CommError())
         pls.DisplayPLSChannels();
 }
@@ -66,7 +68,6 @@ void TransferCommands::ShowDownloadedChannels() {
 // upload that never began because the port would not open.
 void TransferCommands::mnuFileListPopupUploadFromPLS_Click() {
     const auto ended = qScopeGuard([this] { context_.link.SetInUploadMode(false); });
-    const PLSRoute& pls = *context_.views.pls;
     const QString message =
         QStringLiteral("You are about to upload the PLS configuration           \r\n"
                        "and timing channel setpoints from the %1.\r\n\r\n"
@@ -75,15 +76,26 @@ void TransferCommands::mnuFileListPopupUploadFromPLS_Click() {
     bool uploaded = false;
     if (Confirmed(QStringLiteral("PLS Upload"), message)) {
         context_.mode.GoOnline();
-        if (!context_.link.CommError() && pls.ReadPLSFileData(gHdnFile)) {
-            pls.RunWaitJob(uploadChannels);
-            uploaded = !pls.channelText().isEmpty();
-        }
+        if (!context_.link.CommError())
+            uploaded = RunUpload();
     }
     if (uploaded && !context_.link.CommError())
         SavePLSFiles();
     context_.link.SetInUploadMode(false);
     RefreshBrowser();
+}
+
+// Files that could not be read leave a part of them behind, which the timing view must not take for
+// an edit: it shows the board again.
+bool TransferCommands::RunUpload() {
+    const PLSRoute& pls = *context_.views.pls;
+    if (pls.ReadPLSFileData(gHdnFile)) {
+        pls.RunWaitJob(uploadChannels);
+        return !pls.channelText().isEmpty();
+    }
+    if (pls.timingVisible() && pls.gFirstPassOnline())
+        pls.DisplayPLSChannels();
+    return false;
 }
 
 void TransferCommands::SavePLSFiles() {

@@ -1,8 +1,12 @@
 #include "link/RSComm.h"
+#include "pls/PLSConfigTable.h"
+#include "pls/views/frmTiming.h"
 #include "session/Globals.h"
 #include "WholeProgram.h"
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 
 namespace {
 constexpr int r6500 = 69;
@@ -111,6 +115,35 @@ TEST_F(PLSTransferTest, NoTransfersNothing) {
     Choose("mnuFileUploadFromPLS", "FEED");
     EXPECT_TRUE(port_.Sent().empty());
     EXPECT_EQ(Content(SetPath(QStringLiteral("FEED.CHL"))), channels);
+}
+
+// What is left of such files in the record must never be offered to the board as an edit.
+TEST_F(PLSTransferTest, FilesThatCannotBeReadLeaveTheTimingViewWithTheBoardsConfiguration) {
+    ClickSet(QStringLiteral("FEED.hdn"));
+    DownloadFeed();
+    Entry(QStringLiteral("mnuToolsPLSProgramming"))->trigger();
+    auto* view = Find<frmTiming>("frmTiming");
+    QElapsedTimer passed;
+    passed.start();
+    while (!view->gFirstPassOnline() && passed.elapsed() < 10000) {
+        application_->Loops().Wake();
+        QCoreApplication::processEvents();
+    }
+    ASSERT_TRUE(view->gFirstPassOnline());
+    WriteSetFile(QStringLiteral("FEED.PCF"), "1699999" + QByteArray(41, '0') + "%\r\n");
+    WriteSetFile(QStringLiteral("FEED.CHL"), ":0720\r\n:0000\r\n|00100020\r\n");
+    ExpectDownload("FEED", MsgAnswer::Yes);
+    dialogs_.ExpectBoxTitled(QStringLiteral("ReadPLSFileData()"), MsgAnswer::Ok);
+    dialogs_.ExpectBoxTitled(QStringLiteral("PLS Config Download"), MsgAnswer::Ok);
+    dialogs_.ExpectBoxTitled(QStringLiteral("ReadPLSFileData()"), MsgAnswer::Ok);
+    Choose("mnuFileDownloadToPLS", "FEED");
+    EXPECT_EQ(gPLS.ScaleFactor, 720);
+    EXPECT_FALSE(ConfigChanged());
+    ExpectUpload("FEED", MsgAnswer::Yes);
+    dialogs_.ExpectBoxTitled(QStringLiteral("ReadPLSFileData()"), MsgAnswer::Ok);
+    Choose("mnuFileUploadFromPLS", "FEED");
+    EXPECT_EQ(gPLS.ScaleFactor, 720);
+    EXPECT_FALSE(ConfigChanged());
 }
 
 TEST_F(PLSTransferTest, ALineCutInTheUploadLeavesTheFilesAndGoesOffline) {

@@ -37,6 +37,17 @@ TEST_F(Siblings, PartsThatDoNotExistStayAsGiven) {
     EXPECT_EQ(OnDisk(QString()), QString());
 }
 
+// A broken list of recent sets may hold such a path; each part was once looked for in turn, which
+// took minutes.
+TEST_F(Siblings, APathWithoutEndIsGivenUpAtItsFirstPartThatDoesNotExist) {
+    const QString lost =
+        folder.Path(QStringLiteral("new")) + QStringLiteral("/a").repeated(500'000);
+    EXPECT_EQ(OnDisk(lost), lost);
+    const QString upwards =
+        folder.Path(QStringLiteral("new")) + QStringLiteral("/..").repeated(50'000);
+    EXPECT_EQ(OnDisk(upwards), upwards);
+}
+
 TEST_F(Siblings, AccentsAndBlanksAreFoundToo) {
     const QString path = folder.Write(QStringLiteral("Prüf stand.HDN"), "");
     EXPECT_EQ(Find("PRÜF STAND.hdn"), path);

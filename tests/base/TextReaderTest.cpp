@@ -159,3 +159,11 @@ TEST(FirstItem, FollowsTheRulesOfTheReader) {
     EXPECT_EQ(FirstItem(QStringLiteral("   ")), QString());
     EXPECT_EQ(FirstItem(QString()), QString());
 }
+
+TEST_F(TextReading, AFileBeyondAllSenseIsRefusedBeforeItFillsTheMemory) {
+    QFile file(folder.Write(QStringLiteral("a.txt"), ""));
+    ASSERT_TRUE(file.resize(64 * 1024 * 1024));
+    EXPECT_FALSE(TextReader(file.fileName()).AtEnd());
+    ASSERT_TRUE(file.resize(file.size() + 1));
+    ExpectError(ErrorNumber::OutOfMemory, [&] { TextReader reader(file.fileName()); });
+}

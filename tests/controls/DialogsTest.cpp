@@ -145,6 +145,26 @@ TEST(QtDialogs, ASaveAsksBeforeOverwritingOnlyWhenToldTo) {
     EXPECT_EQ(ErrorOf([&] { dialogs.ShowSave(request); }), ErrorNumber::DialogCancel);
 }
 
+TEST(SavedSuffix, IsThatOfTheFirstPatternIfItIsASingleOne) {
+    EXPECT_EQ(SavedSuffix("Trend Data(*.tdt)|*.tdt|"), "tdt");
+    EXPECT_EQ(SavedSuffix("All Files|*.*|"), QString());
+    EXPECT_EQ(SavedSuffix("Tables|*.tbl;*.txt|"), QString());
+    EXPECT_EQ(SavedSuffix(QString()), QString());
+}
+
+TEST(QtDialogs, ASavedNameGetsTheSuffixOfTheFilter) {
+    const QTemporaryDir folder;
+    WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
+            ->setText(folder.filePath(QStringLiteral("press")));
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    });
+    FileDialogRequest request;
+    request.filter = QStringLiteral("Trend Data(*.tdt)|*.tdt|");
+    QtDialogs dialogs;
+    EXPECT_EQ(dialogs.ShowSave(request), folder.filePath(QStringLiteral("press.tdt")));
+}
+
 TEST(QtDialogs, ThePrintDialogOffersAPdfFileWhetherOrNotThereIsAPrinter) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("report.pdf"));

@@ -69,7 +69,7 @@ const std::vector<Row> toolsRows = {
     {"mnuToolsStatusTable", "Status &Table", "Ctrl+T", Enabled},
     {"mnuToolsOnlineMon", "&Monitor Program Online", "Ctrl+M", Hidden},
     {"mnuToolsTrending", "T&rend Data", "Ctrl+R", Enabled},
-    {"mnuToolsPLSProgramming", "&PLS Programming", "Ctrl+L", Disabled},
+    {"mnuToolsPLSProgramming", "&PLS Programming", "Ctrl+L", Enabled},
 };
 const std::vector<Row> helpRows = {
     {"mnuHelpTopics", "Help &Topics", "Ctrl+H", Enabled},

@@ -220,9 +220,3 @@ TEST_F(Commands, AnErrorThatAHandlerLetsThroughIsShown) {
                        MsgAnswer::Ok);
     Entry("mnuHelpAbout")->trigger();
 }
-
-TEST_F(Commands, EntriesOfViewsThatAreNotThereAreDisabled) {
-    for (const char* name : {"mnuToolsPLSProgramming", "PLS"})
-        EXPECT_FALSE(Entry(name)->isEnabled()) << name;
-    EXPECT_TRUE(Entry("mnuFileExit")->isEnabled());
-}

@@ -82,6 +82,29 @@ TEST_F(PLSRouteTest, FailedDownloadReadsNothingBack) {
     EXPECT_EQ(Steps(), "job 7");
 }
 
+// What is left of the files would count as an edit that the view offers to send.
+TEST_F(PLSRouteTest, FilesThatCannotBeReadMakeTheTimingViewShowTheBoardAgain) {
+    timing_ = true;
+    readable_ = false;
+    ExpectDownload(MsgAnswer::Yes);
+    Entry("mnuFileListPopupDownloadToPLS")->trigger();
+    EXPECT_EQ(Steps(), "job 7 read display");
+    steps_.clear();
+    ExpectUpload(MsgAnswer::Yes);
+    Entry("mnuFileListPopupUploadFromPLS")->trigger();
+    EXPECT_EQ(Steps(), "read display");
+    EXPECT_EQ(Content("CAMS.CHL").toStdString(), "missing");
+}
+
+TEST_F(PLSRouteTest, FilesThatCannotBeReadLeaveATimingViewThatIsNotOnlineAlone) {
+    timing_ = true;
+    firstPass_ = false;
+    readable_ = false;
+    ExpectUpload(MsgAnswer::Yes);
+    Entry("mnuFileListPopupUploadFromPLS")->trigger();
+    EXPECT_EQ(Steps(), "read");
+}
+
 TEST_F(PLSRouteTest, UploadSavesBothFiles) {
     timing_ = true;
     ExpectUpload(MsgAnswer::Yes);

@@ -76,13 +76,6 @@ TEST_F(Tools, ErrorNodeShowsTheCompileErrors) {
     EXPECT_EQ(resultModes_, QList<qint16>{0});
 }
 
-TEST_F(Tools, NodesOfViewsThatAreNotThereDoNothing) {
-    ClickSet("CAMS.hdn");
-    DoubleClickNode("PLS Config (.pcf)");
-    EXPECT_TRUE(dialogs_.Boxes().empty());
-    EXPECT_EQ(gHdnFile, SetPath("CAMS.hdn"));
-}
-
 TEST_F(Tools, DocumentationOfALimitSwitchSetIsRefused) {
     dialogs_.ExpectOpen(SetPath("CAMS.hdn"));
     dialogs_.ExpectBox("Select FILE - OPEN to Edit PLS Documentation.", 64, "PLS Target Board",

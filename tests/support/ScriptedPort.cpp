@@ -60,6 +60,10 @@ void ScriptedPort::SetPortOpen(bool open) {
     arriving_.clear();
 }
 
+void ScriptedPort::ReplyTwice(int first, int second) {
+    script_.push_back({first, 0.001, second});
+}
+
 void ScriptedPort::Receive(const std::vector<int>& bytes) {
     for (const int byte : bytes)
         arriving_.push_back({byte, clock_.MonotonicSeconds()});
@@ -97,6 +101,8 @@ void ScriptedPort::AnswerByte(int byte) {
         script_.pop_front();
         if (next.byte)
             arriving_.push_back({*next.byte, now + next.after});
+        if (next.second)
+            arriving_.push_back({*next.second, now + 2 * next.after});
     } else if (answersLikeBoard_) {
         arriving_.push_back({answerOfBoard, now + 0.001});
     }

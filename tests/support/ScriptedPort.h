@@ -17,6 +17,8 @@ public:
     /// The answer to the next byte that is sent and has none yet.
     void Reply(int byte, double after = 0.001);
     void Replies(const std::vector<int>& bytes);
+    /// The next byte that is sent is answered by two, a millisecond apart: noise, or a doubled one.
+    void ReplyTwice(int first, int second);
     /// The next byte that is sent gets no answer.
     void Silence();
     /// Every byte that has no scripted reply is echoed, except that an attention and the command
@@ -58,6 +60,7 @@ private:
     struct Scripted {
         std::optional<int> byte;
         double after;
+        std::optional<int> second = std::nullopt;
     };
     struct Arriving {
         int byte;

@@ -151,11 +151,16 @@ void NumericEntries::ShowRefusal() {
     refused_.reset();
 }
 
+// The box of the up-down itself was stepped and needs no check; another one is left with what was
+// typed there.
 void NumericEntries::UpDownChanged(int index) {
     if (refused_)
         return;
     rules_.ForgetEscape();
-    LeaveForDefault();
+    if (At(index).box->hasFocus())
+        LeaveForDefault();
+    else
+        cmdDefault_.setFocus();
     Q_EMIT Stepped(index, At(index).box->text());
 }
 

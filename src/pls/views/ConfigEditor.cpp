@@ -87,9 +87,11 @@ void ConfigEditor::ShowConfig() {
     screen_.ShowCycle();
 }
 
+// The channel entry goes as far as the option shown, whatever count the board gave.
 void ConfigEditor::ShowStandardConfig() {
     ShowChoices();
-    screen_.SetChannelMax(HighestChannelName(gPLS.Channels));
+    const int option = StandardOptionFor(gPLS.Channels);
+    screen_.SetChannelMax(HighestChannelName(StandardChannelsOf(option)));
     SetWindowMax();
     for (int i = PLSEntryIndex::StandardScale; i < plsEntryCount; ++i)
         ShowEntry(i);

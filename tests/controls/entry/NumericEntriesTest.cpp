@@ -172,6 +172,23 @@ TEST_F(NumericEntriesTest, TheUpDownTakesTheTextOnceAndMovesTheFocusAway) {
     EXPECT_EQ(heard, QStringList{"stepped 0 13"});
 }
 
+TEST_F(NumericEntriesTest, TheUpDownOfAnotherEntryTakesWhatWasTypedBeforeIt) {
+    Type(0, "7");
+    ClickArrow(1, "up");
+    EXPECT_EQ(heard, (QStringList{"accepted 0 7", "stepped 1 31"}));
+    EXPECT_TRUE(cmdDefault->hasFocus());
+}
+
+TEST_F(NumericEntriesTest, TheUpDownOfAnotherEntryDoesNotHideARefusal) {
+    Type(0, "99");
+    ExpectRefusal();
+    ClickArrow(1, "up");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard.filter("accepted 0"), QStringList());
+    EXPECT_EQ(boxes[0]->text(), "5");
+    EXPECT_TRUE(boxes[0]->hasFocus());
+}
+
 TEST_F(NumericEntriesTest, TheUpDownAtItsEndChangesNothing) {
     boxes[0]->setText("1");
     ClickArrow(0, "down");

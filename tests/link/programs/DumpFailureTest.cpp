@@ -167,6 +167,23 @@ TEST_F(DumpFailure, ModeByteThatTimedOutIsSentAgainBeforeAnyRecord) {
     CheckWire();
 }
 
+// A board that answers an attention otherwise does not wait for a command, and would take the mode
+// byte and the records for the addresses and data of a write.
+TEST_F(DumpFailure, AttentionThatIsNotAcknowledgedIsSentAgainBeforeTheModeByte) {
+    ReadIdentBlock("", 0, 0);
+    RequestDump();
+    Pair(0xFF, 0xFF);
+    Pair(0xFF, 0x55);
+    Pair(0x03, 0x55);
+    GoodRecord({0x01, 0x20, 0x00, 0x07});
+    Pair(0xFF, 0x55);
+    WriteIdentBlock(QByteArray("PUMP1\0\0\0", 8), 163, 1);
+    Begin(":0120000007D8\r\n");
+    ExpectComplete();
+    link.DumpProgram();
+    CheckWire();
+}
+
 TEST_F(DumpFailure, ModeByteThatNeverArrivesEndsTheDumpBeforeAnyRecord) {
     ReadIdentBlock("", 0, 0);
     RequestDump();

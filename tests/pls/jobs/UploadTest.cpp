@@ -55,6 +55,19 @@ TEST_F(UploadPLS, BuildsTheTextsOfTheTwoFiles) {
     EXPECT_EQ(gPLS.CHLText.toLatin1(), text + "%");
 }
 
+TEST_F(UploadPLS, AChannelWithNoProgrammedSetpointLeavesNoSetpointLineInTheCHLText) {
+    Configure(8, 360);
+    Program(3, {{20, 10}});
+    Upload();
+    EXPECT_EQ(gPLS.Chan[2], SetpointList{Setpoint{}});
+    EXPECT_EQ(gPLS.CHLText.count(u'|'), 1) << "that of channel 3";
+    EXPECT_TRUE(gPLS.CHLText.contains(QStringLiteral(":021:000:000:000") + QString(21, u' ') +
+                                      QStringLiteral("\r\n:03")));
+    Program(3, {});
+    Upload();
+    EXPECT_EQ(gPLS.CHLText.count(u'|'), 0);
+}
+
 TEST_F(UploadPLS, TellsHowFarItIs) {
     Configure(16, 360);
     Program(8, {{5, 1}, {15, 10}});
