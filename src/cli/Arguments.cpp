@@ -16,8 +16,8 @@ constexpr int usageWidth = 30;
 QString CommandList() {
     QString list = QStringLiteral("Commands:\n");
     for (const Command& command : Commands()) {
-        const QString usage = QString::fromLatin1(command.name) + u' ' +
-                              QString::fromLatin1(command.operands);
+        const QString usage =
+            QString::fromLatin1(command.name) + u' ' + QString::fromLatin1(command.operands);
         list += QLatin1String("  ") + usage.leftJustified(usageWidth) +
                 QString::fromLatin1(command.summary) + u'\n';
     }
@@ -27,8 +27,8 @@ QString CommandList() {
 // An option without a name for its value takes none.
 void Describe(QCommandLineParser& parser) {
     const auto option = [&parser](const char* name, const char* value, const char* text) {
-        parser.addOption({QString::fromLatin1(name), QString::fromLatin1(text),
-                          QString::fromLatin1(value)});
+        parser.addOption(
+            {QString::fromLatin1(name), QString::fromLatin1(text), QString::fromLatin1(value)});
     };
     option("port", "port", "Number (1 to 99) or device path; else that of the settings file.");
     option("baud", "baud", "9600 or 19200; else that of the settings file.");
@@ -80,8 +80,8 @@ public:
 private:
     void Refuse(const QString& name, const QString& wanted) {
         if (parsed_.error.isEmpty())
-            parsed_.error = QStringLiteral("--%1 takes %2, not \"%3\".")
-                                .arg(name, wanted, parser_.value(name));
+            parsed_.error =
+                QStringLiteral("--%1 takes %2, not \"%3\".").arg(name, wanted, parser_.value(name));
     }
 
     void TakePort() {
@@ -91,8 +91,7 @@ private:
         parsed_.arguments.port = parser_.value(name);
         bool isNumber = false;
         parsed_.arguments.port.toLongLong(&isNumber);
-        if (parsed_.arguments.port.isEmpty() ||
-            (isNumber && !IsPortText(parsed_.arguments.port)))
+        if (parsed_.arguments.port.isEmpty() || (isNumber && !IsPortText(parsed_.arguments.port)))
             Refuse(name, QStringLiteral("a number of 1 to 99 or the path of a device"));
     }
 

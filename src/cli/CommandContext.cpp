@@ -51,8 +51,9 @@ std::optional<Outcome> CommandContext::FailureOrInterruption() const {
 
 std::optional<Outcome> CommandContext::TakeSet() {
     if (arguments_.operands.size() != 1)
-        return Ended(ExitCode::Usage, QStringLiteral("%1 takes one program set, a .hdn file.")
-                                          .arg(arguments_.command));
+        return Ended(
+            ExitCode::Usage,
+            QStringLiteral("%1 takes one program set, a .hdn file.").arg(arguments_.command));
     return TakeSetFile(arguments_.operands.first());
 }
 

@@ -10,7 +10,7 @@ struct Command {
     const char* name;
     const char* operands; ///< as --help shows them
     const char* summary;
-    bool asks;            ///< it asks before it changes a board or a set
+    bool asks; ///< it asks before it changes a board or a set
     Outcome (*run)(CommandContext& context);
 };
 

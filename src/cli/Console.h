@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The seam to the terminal or to whatever the standard streams lead to. Text from a board or a file
-/// is hostile: an implementation shows no control characters of it.
+/// The seam to the terminal or to whatever the standard streams lead to. Text from a board or a
+/// file is hostile: an implementation shows no control characters of it.
 class Console {
 public:
     virtual ~Console();

@@ -28,8 +28,8 @@ constexpr int wordWidth = 18;
 } // namespace
 
 QString ExitWord(ExitCode code) {
-    const auto* found = std::find_if(rows.begin(), rows.end(),
-                                     [code](const Row& row) { return row.code == code; });
+    const auto* found =
+        std::find_if(rows.begin(), rows.end(), [code](const Row& row) { return row.code == code; });
     return found == rows.end() ? QString() : QString::fromLatin1(found->word);
 }
 

@@ -22,8 +22,8 @@ std::optional<Outcome> TakePLSSet(CommandContext& context) {
     if (auto failure = context.TakeSet())
         return failure;
     if (!IsPLSBoard(context.Model()))
-        return Ended(ExitCode::Files, QStringLiteral("%1 is no set of a limit switch board.")
-                                          .arg(gHdnFile));
+        return Ended(ExitCode::Files,
+                     QStringLiteral("%1 is no set of a limit switch board.").arg(gHdnFile));
     return std::nullopt;
 }
 
@@ -35,9 +35,9 @@ std::optional<Outcome> ReadFiles(CommandContext& context) {
 
 std::optional<Outcome> Confirm(CommandContext& context, const QString& message,
                                const QString& title) {
-    return context.Ask(message.arg(TargetboardName(context.Model())),
-                       QStringLiteral("%1 [%2]").arg(
-                           title, QFileInfo(gHdnFile).completeBaseName()));
+    return context.Ask(
+        message.arg(TargetboardName(context.Model())),
+        QStringLiteral("%1 [%2]").arg(title, QFileInfo(gHdnFile).completeBaseName()));
 }
 
 void WriteTextFile(const QString& path, const QString& text) {
@@ -69,12 +69,11 @@ Outcome PLSDownloadCommand(CommandContext& context) {
             return Ended(ExitCode::Files, QStringLiteral("%1 does not exist.").arg(file));
     if (auto failure = ReadFiles(context))
         return *failure;
-    if (auto failure =
-            Confirm(context,
-                    QStringLiteral("You are about to download the PLS configuration\r\n"
-                                   "and timing channel setpoints to the %1.\r\n\r\n"
-                                   "Do you wish to continue?"),
-                    QStringLiteral("PLS Download")))
+    if (auto failure = Confirm(context,
+                               QStringLiteral("You are about to download the PLS configuration\r\n"
+                                              "and timing channel setpoints to the %1.\r\n\r\n"
+                                              "Do you wish to continue?"),
+                               QStringLiteral("PLS Download")))
         return *failure;
     if (auto failure = context.GoOnline())
         return *failure;

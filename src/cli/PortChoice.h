@@ -12,8 +12,9 @@ struct Arguments;
 /// object.
 class PortChoice {
 public:
-    /// `folder` is the application folder, which must outlive the object. Raises as LoadPortSettings
-    /// where --baud goes with the port of the settings file, and as SavePortSettings.
+    /// `folder` is the application folder, which must outlive the object. Raises as
+    /// LoadPortSettings where --baud goes with the port of the settings file, and as
+    /// SavePortSettings.
     PortChoice(const Arguments& arguments, const ApplicationFolder& folder);
     ~PortChoice();
     PortChoice(const PortChoice&) = delete;

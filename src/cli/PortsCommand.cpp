@@ -14,9 +14,9 @@ Outcome ListPortsCommand(CommandContext& context) {
             {QStringLiteral("device"), port.device},
             {QStringLiteral("description"), port.description}});
         const QString number = port.number ? QString::number(*port.number) : QStringLiteral("-");
-        outcome.lines +=
-            QStringLiteral("%1  %2  %3").arg(number.rightJustified(2), port.device, port.description)
-                .trimmed();
+        outcome.lines += QStringLiteral("%1  %2  %3")
+                             .arg(number.rightJustified(2), port.device, port.description)
+                             .trimmed();
     }
     outcome.result.insert(QStringLiteral("ports"), ports);
     return outcome;

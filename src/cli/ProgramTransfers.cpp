@@ -58,9 +58,8 @@ std::optional<Outcome> CheckForDump(CommandContext& context) {
     context.Link().DownloadFile(gHdnFile);
     const QString report = context.Prompts().Report();
     if (!report.isEmpty() || !context.Link().ValidProgram())
-        return Ended(ExitCode::Files, report.isEmpty()
-                                          ? QStringLiteral("%1 is not valid.").arg(gHdnFile)
-                                          : report);
+        return Ended(ExitCode::Files,
+                     report.isEmpty() ? QStringLiteral("%1 is not valid.").arg(gHdnFile) : report);
     return std::nullopt;
 }
 
@@ -118,7 +117,7 @@ Outcome UploadCommand(CommandContext& context) {
     }
     staged.Keep({QStringLiteral("rev"), QStringLiteral("lcf"), QStringLiteral("hex")});
     Outcome outcome = WithSet({});
-    outcome.lines += QStringLiteral("%1 holds the program of the board.")
-                         .arg(QFileInfo(gHdnFile).fileName());
+    outcome.lines +=
+        QStringLiteral("%1 holds the program of the board.").arg(QFileInfo(gHdnFile).fileName());
     return outcome;
 }

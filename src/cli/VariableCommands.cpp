@@ -26,7 +26,7 @@ struct Assignment {
 // meant would not see it.
 bool IsVariable(const QString& text, qint16 model) {
     static const QRegularExpression form(
-        QStringLiteral("^([BWDF][0-9]{1,5}|F?[0-9A-F]{1,4}H|[BXYI][0-9]{1,5}\\.[0-7]|"
+        QStringLiteral("^([BWDF][0-9]{1,5}|F[0-9A-F]{3}H|[BXYI][0-9]{1,5}\\.[0-7]|"
                        "[XYI][0-9]{1,5})$"),
         QRegularExpression::CaseInsensitiveOption);
     return form.match(text).hasMatch() && ValidAdd(text, model);
@@ -59,15 +59,15 @@ std::optional<Outcome> TakeAssignment(const QString& text, qint16 model, Assignm
     const qint64 highest = parsed.isBit ? 1 : LimitOfWidth(parsed.width).highest;
     assignment.value = value.toLongLong();
     if (assignment.value > highest)
-        return Ended(ExitCode::Usage, QStringLiteral("%1 takes 0 to %2.")
-                                          .arg(assignment.variable.text)
-                                          .arg(highest));
+        return Ended(
+            ExitCode::Usage,
+            QStringLiteral("%1 takes 0 to %2.").arg(assignment.variable.text).arg(highest));
     return std::nullopt;
 }
 
 void AddValue(const QString& variable, qint64 value, QJsonArray& values, Outcome& outcome) {
-    values.append(QJsonObject{{QStringLiteral("variable"), variable},
-                              {QStringLiteral("value"), value}});
+    values.append(
+        QJsonObject{{QStringLiteral("variable"), variable}, {QStringLiteral("value"), value}});
     outcome.lines += QStringLiteral("%1 = %2").arg(variable).arg(value);
 }
 
@@ -79,6 +79,24 @@ Outcome Finished(Outcome outcome, const QJsonArray& values, const std::optional<
         outcome.reason = failure->reason;
     }
     return outcome;
+}
+
+// A bit goes out with the seven others of its byte. They are read here, where a read that failed
+// shows, and not by the link's own bit write, and a second try sends what was read at the first.
+std::optional<Outcome> WriteOne(CommandContext& context, const Assignment& assignment) {
+    RSComm& link = context.Link();
+    const ParsedAddress target = ParseAddress(assignment.variable.equivalent);
+    if (!target.isBit) {
+        link.RSWrite(assignment.variable.equivalent, QString::number(assignment.value));
+        return context.FailureOrInterruption();
+    }
+    const QString byteVariable = u'B' + QString::number(target.address);
+    const int byte = static_cast<int>(WholeNumberValue(link.RSRead(byteVariable)));
+    if (auto failure = context.FailureOrInterruption())
+        return failure;
+    const int wanted = assignment.value == 1 ? byte | target.mask : byte & ~target.mask;
+    link.RSWrite(byteVariable, QString::number(wanted));
+    return context.FailureOrInterruption();
 }
 
 std::optional<Outcome> TakeOperands(CommandContext& context) {
@@ -121,8 +139,7 @@ Outcome WriteCommand(CommandContext& context) {
     Outcome outcome;
     QJsonArray values;
     for (const Assignment& assignment : assignments) {
-        context.Link().RSWrite(assignment.variable.equivalent, QString::number(assignment.value));
-        if (auto failure = context.FailureOrInterruption())
+        if (auto failure = WriteOne(context, assignment))
             return Finished(outcome, values, failure);
         AddValue(assignment.variable.text, assignment.value, values, outcome);
     }

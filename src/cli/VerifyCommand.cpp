@@ -14,9 +14,8 @@ QString Hex(int number, int digits) {
 
 bool IsWhole(const HexImage& image) {
     return image.IsSendable() &&
-           std::none_of(image.Lines().begin(), image.Lines().end(), [](const HexLine& line) {
-               return line.kind == HexLine::Kind::NoRecord;
-           });
+           std::none_of(image.Lines().begin(), image.Lines().end(),
+                        [](const HexLine& line) { return line.kind == HexLine::Kind::NoRecord; });
 }
 
 // What a dump of the set writes into the ident block; nothing where there is no .REV file.
@@ -74,8 +73,8 @@ Outcome Judged(const VerifyReport& report) {
         outcome.reason = DifferenceText(*report.first);
     } else if (report.unreadable > 0) {
         outcome.code = ExitCode::Unproven;
-        outcome.reason = QStringLiteral("%1 bytes from FF00H up cannot be read back.")
-                             .arg(report.unreadable);
+        outcome.reason =
+            QStringLiteral("%1 bytes from FF00H up cannot be read back.").arg(report.unreadable);
     }
     return outcome;
 }

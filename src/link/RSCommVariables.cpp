@@ -24,7 +24,8 @@ bool IsDropped(QChar c) {
 QString RSComm::RSRead(const QString& Add) {
     const Operation operation(*this);
     const QString value = ReadVariable(Add);
-    if (value.isEmpty() || linkMode_ != LinkMode::Read) // the acknowledge of an attention is no data
+    if (value.isEmpty() ||
+        linkMode_ != LinkMode::Read) // the acknowledge of an attention is no data
         ++failedOperations_;
     return QString::number(WholeNumberValue(value));
 }

@@ -1,5 +1,5 @@
-#include "base/TextFile.h"
 #include "cli/Arguments.h"
+#include "base/TextFile.h"
 #include "cli/CommandLineTest.h"
 #include "cli/Commands.h"
 #include "cli/PortChoice.h"
@@ -29,14 +29,15 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values("", "fly", "read", "read B100", "read --model K9999 B100",
                     "read --model K2012 --set @A.hdn B100", "read --model K2012 Q7",
                     "read --model K2012 B100.8", "read --model K2012 B100x",
-                    "read --model K2012 W101", "read --model K2014 X99", "read --model K2012 B99999",
-                    "read --model 55 FF00H", "read --model K2012 --port 0 B100",
-                    "read --model K2012 --port 100 B100", "read --model K2012 --baud 300 B100",
-                    "read --nonsense --model K2012 B100", "write --model K2012 B100",
-                    "write --model K2012 B100=12.5", "write --model K2012 B100=-1",
-                    "write --model K2012 B100=256", "write --model K2012 W100=65536",
-                    "write --model K2012 B100.1=2", "write --model K2012 B100=1 B101=x",
-                    "dump --yes", "dump --yes a b", "dump --yes A.hex", "ports 1", "faults 1",
+                    "read --model K2012 W101", "read --model K2014 X99",
+                    "read --model K2012 B99999", "read --model 55 FF00H",
+                    "read --model K2012 --port 0 B100", "read --model K2012 --port 100 B100",
+                    "read --model K2012 --baud 300 B100", "read --nonsense --model K2012 B100",
+                    "write --model K2012 B100", "write --model K2012 B100=12.5",
+                    "write --model K2012 B100=-1", "write --model K2012 B100=256",
+                    "write --model K2012 W100=65536", "write --model K2012 B100.1=2",
+                    "write --model K2012 B100=1 B101=x", "dump --yes", "dump --yes a b",
+                    "dump --yes A.hex", "ports 1", "faults 1",
                     "data-download --yes --from x @A.hdn", "data-download --yes --from 31 @A.hdn",
                     "data-upload --yes --from 200 --to 100 @A.hdn"));
 

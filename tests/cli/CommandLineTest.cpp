@@ -35,9 +35,8 @@ ExitCode CommandLineTest::Run(const QString& words) {
 }
 
 QJsonObject CommandLineTest::Json() const {
-    return console.out.isEmpty()
-               ? QJsonObject()
-               : QJsonDocument::fromJson(console.out.last().toUtf8()).object();
+    return console.out.isEmpty() ? QJsonObject()
+                                 : QJsonDocument::fromJson(console.out.last().toUtf8()).object();
 }
 
 void CommandLineTest::CutLineAtReply(int nth) {

@@ -13,10 +13,11 @@ protected:
 
 TEST_F(VariablesTest, EachKindOfVariableIsRead) {
     Poke(100, QByteArray::fromHex("0C2710270100"));
-    EXPECT_EQ(Run(QStringLiteral("read --model K2012 B100 W100 D102 B100.2 F545 X30 0066H")),
+    Poke(0xF00A, QByteArray(1, 7));
+    ASSERT_EQ(Run(QStringLiteral("read --model K2012 B100 W100 D102 B100.2 F545 X30 F00AH")),
               ExitCode::Done);
     EXPECT_EQ(console.out.last(), QStringLiteral("B100 = 12\nW100 = 9996\nD102 = 20000\n"
-                                                 "B100.2 = 1\nF545 = 0\nX30 = 0\n0066H = 16"));
+                                                 "B100.2 = 1\nF545 = 0\nX30 = 0\nF00AH = 7"));
     EXPECT_TRUE(console.err.isEmpty());
 }
 
@@ -41,8 +42,7 @@ TEST_F(VariablesTest, TheSetTellsTheModel) {
 }
 
 TEST_F(VariablesTest, ValuesAreWrittenWithoutAQuestion) {
-    EXPECT_EQ(Run(QStringLiteral("write --model K2012 B100=12 W102=513 B105.7=1")),
-              ExitCode::Done);
+    ASSERT_EQ(Run(QStringLiteral("write --model K2012 B100=12 W102=513 B105.7=1")), ExitCode::Done);
     EXPECT_EQ(Memory(100, 6).toHex(), QByteArray("0c0001020080"));
     EXPECT_EQ(console.out.last(), QStringLiteral("B100 = 12\nW102 = 513\nB105.7 = 1"));
 }
@@ -60,9 +60,8 @@ TEST_F(VariablesTest, AtATerminalTheUserMayRetry) {
     console.answers = {QStringLiteral("r")};
     for (int reply = 1; reply <= 3; ++reply)
         LoseReply(reply);
-    EXPECT_EQ(Run(QStringLiteral("read --model K2012 B100")), ExitCode::NoCommunication)
-        << "a retry waits for the board once more, and nothing was sent";
-    EXPECT_FALSE(console.prompts.isEmpty());
+    EXPECT_EQ(Run(QStringLiteral("read --model K2012 B100")), ExitCode::Done);
+    EXPECT_EQ(console.prompts, QStringList{QStringLiteral("[retry/Cancel]")});
 }
 
 // The link gives "0" then, and no error.
@@ -88,8 +87,9 @@ TEST_F(VariablesTest, AReplyThatIsLostWhileABitIsWrittenHarmsNoOtherBit) {
         Poke(100, QByteArray(1, 0x22));
         LoseReply(reply);
         const ExitCode code = Run(QStringLiteral("write --model K2012 B100.0=1"));
-        EXPECT_EQ(Memory(100, 1).toHex(), code == ExitCode::Done ? QByteArray("23")
-                                                                 : Memory(100, 1).toHex());
+        if (code == ExitCode::Done) {
+            EXPECT_EQ(Memory(100, 1).toHex(), QByteArray("23"));
+        }
         EXPECT_EQ(Memory(100, 1)[0] & ~1, 0x22);
     }
 }
