@@ -38,7 +38,8 @@ void Describe(QCommandLineParser& parser) {
     option("to", "address", "Last byte address of a data transfer.");
     option("yes", "", "Answer all questions Yes.");
     option("json", "", "Give the result as one JSON object.");
-    parser.addHelpOption();
+    parser.addOption(
+        {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")});
     parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("See below."));
     parser.addPositionalArgument(QStringLiteral("operands"), QStringLiteral("See below."),

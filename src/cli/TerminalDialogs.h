@@ -31,7 +31,7 @@ public:
     PrinterChoice ShowPrinter() override;
 
 private:
-    int AnswerQuestion(int style);
+    int AnswerQuestion(int buttons);
     int AnswerRetry();
 
     Console& console_;
