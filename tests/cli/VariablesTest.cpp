@@ -114,3 +114,21 @@ TEST_F(VariablesTest, AnInterruptionEndsBetweenVariables) {
     EXPECT_EQ(Run(QStringLiteral("write --model K2012 B100=12 B101=13")), ExitCode::Cancelled);
     EXPECT_EQ(Memory(101, 1).toHex(), QByteArray("00"));
 }
+
+// The link tries a write twice and then says nothing.
+TEST_F(VariablesTest, AByteThatIsTwiceEchoedWronglyIsNotDone) {
+    int failed = 0;
+    for (int second = firstReadEcho + 1; second <= firstReadEcho + 12; ++second) {
+        SCOPED_TRACE(second);
+        ConnectBoard(k2012);
+        for (const int reply : {firstReadEcho, second})
+            line->Faults().Order(
+                {.kind = haldenboard::FaultKind::Wrong, .nth = reply, .bytes = {}});
+        const ExitCode code = Run(QStringLiteral("write --model K2012 B100=12"));
+        EXPECT_TRUE(code == ExitCode::Failed || Memory(100, 1) == QByteArray(1, 12));
+        failed += code == ExitCode::Failed;
+        EXPECT_EQ(Messages().contains(QStringLiteral("did not acknowledge every byte")),
+                  failed > 0);
+    }
+    EXPECT_GT(failed, 0);
+}
