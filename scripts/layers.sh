@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # Rank of a folder; a folder "views" lies above all cores and the controls, and among themselves the
 # views stand in the order of their subsystems.
 ranks='base=0 help=1 link=1 programset=2 session=3 jobs=4 statustable=5 targetboard=5 pls=5
-  reports=5 trending=6 results=6 controls=7 views=8 shell=9 app=10'
+  reports=5 trending=6 results=6 controls=7 views=8 shell=9 app=10 cli=10'
 
 git grep -n '^#include "' -- 'src/*.h' 'src/*.cpp' | awk -v ranks="$ranks" '
   function layer(path, part) {

@@ -1,6 +1,6 @@
 #include "app/Application.h"
-#include "base/ApplicationFolder.h"
 #include "base/Drives.h"
+#include "base/OwnFolder.h"
 #include "base/port/SerialMSComm.h"
 #include "base/port/SystemSerialPorts.h"
 #include "base/ProcessStart.h"
@@ -9,17 +9,6 @@
 #include "controls/QtDialogs.h"
 #include "reports/views/PrinterSurface.h"
 #include <QApplication>
-#include <QStandardPaths>
-
-namespace {
-ApplicationFolder FindApplicationFolder() {
-    const QString userFolder =
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-        QStringLiteral("/quentor");
-    return ApplicationFolder::Locate(QCoreApplication::applicationDirPath(), userFolder,
-                                     QStringLiteral(QUENTOR_INSTALLED_DEFAULTS));
-}
-} // namespace
 
 int main(int argc, char** argv) {
     QApplication qt(argc, argv);
@@ -27,7 +16,7 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(ProgramVersion().Number());
     QGuiApplication::setDesktopFileName(QStringLiteral("quentor"));
 
-    const ApplicationFolder folder = FindApplicationFolder();
+    const ApplicationFolder folder = FindOwnFolder();
     SystemClock clock;
     QtDialogs dialogs;
     PaintedBusyDisplay busy;

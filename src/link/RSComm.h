@@ -116,6 +116,10 @@ public:
     /// bits 0 or 1. A value that does not fit is refused with a box and nothing is sent. A wrong
     /// echo is retried once; a second one is silent.
     void RSWrite(const QString& Add, const QString& DataValue);
+    /// Calls of RSRead and RSWrite, from the start on, that did not come to their end: a "0" that
+    /// is no value of the board, a value that was refused or not echoed. Who must not take the one
+    /// for the other compares before and after.
+    quint64 FailedOperations() const { return failedOperations_; }
 
     // Faults and keep-alive.
 
@@ -311,8 +315,10 @@ private:
 
     int linkMode_ = LinkMode::None;
     bool inDoubt_ = false; // what arrives next may answer an earlier byte
-    int dataOwed_ = 0; // data bytes of a command that the board may still be waiting for
+    int dataOwed_ = 0;     // data bytes of a command that the board may still be waiting for
     bool writeFailed_ = false;
+    bool writeTaken_ = false; // all bytes of the last write were echoed
+    quint64 failedOperations_ = 0;
     bool portSettingsBad_ = false;
 
     ParsedAddress parsed_;

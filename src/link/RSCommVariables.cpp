@@ -23,7 +23,11 @@ bool IsDropped(QChar c) {
 
 QString RSComm::RSRead(const QString& Add) {
     const Operation operation(*this);
-    return QString::number(WholeNumberValue(ReadVariable(Add)));
+    const QString value = ReadVariable(Add);
+    if (value.isEmpty() ||
+        linkMode_ != LinkMode::Read) // the acknowledge of an attention is no data
+        ++failedOperations_;
+    return QString::number(WholeNumberValue(value));
 }
 
 // Reads in a row carry no handshake, and the same variable again is not even parsed: two bytes
@@ -80,10 +84,13 @@ void RSComm::RSWrite(const QString& Add, const QString& DataValue) {
     WriteVariable(Add, DataValue);
     if (writeFailed_)
         WriteVariable(Add, DataValue);
+    if (!writeTaken_)
+        ++failedOperations_;
 }
 
 void RSComm::WriteVariable(const QString& Add, const QString& DataValue) {
     writeFailed_ = false;
+    writeTaken_ = false;
     std::optional<double> value = NumberToWrite(DataValue);
     if (!value)
         return;
@@ -151,6 +158,7 @@ void RSComm::SendBytes(qint32 address, const QByteArray& bytes) {
         }
         ++address;
     }
+    writeTaken_ = true;
 }
 
 // After a time-out the reply is the acknowledge of an attention and no echo, even where the byte
