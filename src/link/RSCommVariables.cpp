@@ -16,6 +16,10 @@ void RefuseBeyondMemory(qint32 first, int count) {
         throw RunTimeError(ErrorNumber::Overflow);
 }
 
+int WithBit(int byte, int mask, double bit) {
+    return bit == 1 ? byte | mask : byte & ~mask;
+}
+
 bool IsDropped(QChar c) {
     return c == u' ' || c == u'%' || c == u',' || c == u'.' || c == QChar(degreeSign);
 }
@@ -42,8 +46,10 @@ QString RSComm::ReadVariable(const QString& variable) {
     if (!inReadMode && !SetTargetMode(LinkMode::Read, readModeByte))
         return QString();
     for (int i = 0; i < lastByteCount_; ++i)
-        if (!ReadByteAt(parsed_.address + i, lastBytes_[i]))
+        if (!ReadByteAt(parsed_.address + i, lastBytes_[i])) {
+            lastVariable_.reset(); // what lastBytes_ holds is no value of it
             return QString();
+        }
     return ComposeValue();
 }
 
@@ -79,11 +85,20 @@ QString RSComm::ComposeValue() const {
     return QString::number(ValueOfBytes(lastBytes_.data(), lastByteCount_));
 }
 
+// The retry of a bit does not read its byte again: where an echo was lost the board has stored the
+// attention that followed, and all bits of the byte would stay set.
 void RSComm::RSWrite(const QString& Add, const QString& DataValue) {
     const Operation operation(*this);
     WriteVariable(Add, DataValue);
-    if (writeFailed_)
-        WriteVariable(Add, DataValue);
+    if (writeFailed_) {
+        const ParsedAddress target = ParseAddress(Add);
+        const QString byte = ByteVariable(target.address);
+        const std::optional<double> bit = NumberToWrite(DataValue);
+        if (target.isBit && bit && lastVariable_ == byte)
+            WriteVariable(byte, QString::number(WithBit(lastBytes_[0], target.mask, *bit)));
+        else
+            WriteVariable(Add, DataValue);
+    }
     if (!writeTaken_)
         ++failedOperations_;
 }
@@ -134,13 +149,14 @@ std::optional<double> RSComm::ByteWithBit(const ParsedAddress& target, double bi
         RefuseEntry(QStringLiteral("Enter 0 or 1 Only."));
         return std::nullopt;
     }
-    const QString present = ReadVariable(u'B' + QString::number(target.address));
-    if (present.isEmpty()) {
+    const QString present = ReadVariable(ByteVariable(target.address));
+    const bool isData = linkMode_ == LinkMode::Read; // else it is the acknowledge of an attention
+    if (present.isEmpty() || !isData) {
+        lastVariable_.reset();
         writeFailed_ = !commError_;
         return std::nullopt;
     }
-    const int byte = static_cast<int>(NumberValue(present));
-    return bit == 1 ? byte | target.mask : byte & ~target.mask;
+    return WithBit(static_cast<int>(NumberValue(present)), target.mask, bit);
 }
 
 void RSComm::SendBytes(qint32 address, const QByteArray& bytes) {

@@ -105,6 +105,34 @@ TEST_F(WriteBit, ARetryAfterAFailedReadWritesTheByte) {
     EXPECT_EQ(port.Sent(), (Bytes{0, 0xFF, 0x01, 0, 100, 0xFF, 0x02, 0, 100, 0x88}));
 }
 
+// The acknowledge of the attention after the time-out is 55H and no value of the byte.
+TEST_F(WriteBit, ALostDataByteOfTheReadIsNoByteToWrite) {
+    EnterReadMode();
+    port.Reply(0);
+    port.Silence();
+    port.Reply(0x55);
+    AcceptHandshake();
+    AnswerRead(0, 0x22);
+    AcceptHandshake();
+    AnswerWrite(0, 100, 0x2A);
+    Write("B100.3", "1");
+    EXPECT_EQ(port.Sent(), (Bytes{0, 100, 0xFF, 0xFF, 0x01, 0, 100, 0xFF, 0x02, 0, 100, 0x2A}));
+}
+
+TEST_F(WriteBit, TheRetryAfterALostEchoWritesTheByteOfTheFirstRead) {
+    EnterReadMode();
+    AnswerRead(0, 0x22);
+    AcceptHandshake();
+    port.Replies({0, 100});
+    port.Silence();
+    port.Reply(0x55);
+    AcceptHandshake();
+    AnswerWrite(0, 100, 0x2A);
+    Write("B100.3", "1");
+    EXPECT_EQ(port.Sent(),
+              (Bytes{0, 100, 0xFF, 0x02, 0, 100, 0x2A, 0xFF, 0xFF, 0x02, 0, 100, 0x2A}));
+}
+
 TEST_F(WriteBit, ADeadLineEndsTheWriteWithoutARetry) {
     EnterReadMode();
     ExpectAlert(NoReplyAlert(), 2);
