@@ -6,6 +6,7 @@
 #include "pls/MachineMotion.h"
 #include "pls/PLSBoards.h"
 #include "pls/views/CycleStripView.h"
+#include "pls/views/PanelRow.h"
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -178,7 +179,7 @@ void TimingForm::MakePanels(QWidget& view) {
                                         "PLS Scale Factor"};
     constexpr const char* texts[] = {MachineTexts::noSpeed, MachineTexts::noPosition,
                                      MachineTexts::noOffset, MachineTexts::noScale};
-    sbrMachineTiming = new QWidget(&view);
+    sbrMachineTiming = new PanelRow(&view);
     sbrMachineTiming->setObjectName(QStringLiteral("sbrMachineTiming"));
     for (int i = 0; i < MachinePanel::Count; ++i) {
         const auto place = static_cast<std::size_t>(i);

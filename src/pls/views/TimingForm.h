@@ -7,6 +7,7 @@
 class CycleStripView;
 class EntryUpDown;
 class Grid;
+class PanelRow;
 class QBoxLayout;
 class QCheckBox;
 class QComboBox;
@@ -62,7 +63,7 @@ struct TimingForm {
     QPushButton* cmdSetOffset;
     QPushButton* cmdResetPLSConfig;
     QLabel* lblSetpointRecall; ///< progress of a recall, hidden otherwise
-    QWidget* sbrMachineTiming;
+    PanelRow* sbrMachineTiming;
     std::array<QLabel*, MachinePanel::Count> panels{};
     QPushButton* cmdDefault; ///< takes the focus when an entry is left; nothing to see
 

@@ -1,5 +1,6 @@
 #include "controls/grid/Grid.h"
 #include "pls/views/CycleStripView.h"
+#include "pls/views/PanelRow.h"
 #include "pls/views/TimingForm.h"
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -53,12 +54,8 @@ void TimingForm::LayOut(QWidget& view) {
     columns->addLayout(ChannelColumn());
     columns->addLayout(ConfigColumn());
 
-    auto* panelRow = new QHBoxLayout(sbrMachineTiming);
-    panelRow->setContentsMargins(0, 0, 0, 0);
-    for (QLabel* panel : panels) {
-        panel->setMinimumWidth(panel->fontMetrics().horizontalAdvance(u'0') * panelCharacters);
-        panelRow->addWidget(panel, 1);
-    }
+    for (QLabel* panel : panels)
+        sbrMachineTiming->Add(*panel, panelCharacters);
     auto* form = new QVBoxLayout(&view);
     form->addLayout(columns, 1);
     form->addWidget(sbrMachineTiming);

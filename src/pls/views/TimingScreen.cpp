@@ -6,6 +6,7 @@
 #include "controls/grid/Grid.h"
 #include "link/RSComm.h"
 #include "pls/views/CycleStripView.h"
+#include "pls/views/PanelRow.h"
 #include "session/Globals.h"
 #include <algorithm>
 #include <QCheckBox>
