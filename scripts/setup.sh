@@ -3,7 +3,7 @@
 # printed and the script stops.
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev qt6-svg-dev
-  libgl-dev libgtest-dev libgmock-dev fonts-dejavu-core)
+  libgl-dev libgtest-dev libgmock-dev fonts-dejavu-core poppler-utils)
 
 # What the fuzz programs need besides (scripts/fuzz-record.sh).
 # shellcheck disable=SC2034
@@ -32,7 +32,7 @@ install_packages() {
 # Without apt there is nothing to install with: name the tools and libraries that are not there.
 require_by_hand() {
   local lacking=() tool
-  for tool in c++ cmake ninja "$@"; do command -v "$tool" >/dev/null || lacking+=("$tool"); done
+  for tool in c++ cmake ninja pdftotext pdftoppm "$@"; do command -v "$tool" >/dev/null || lacking+=("$tool"); done
   command -v qmake6 >/dev/null || command -v qtpaths6 >/dev/null ||
     lacking+=("Qt 6.4 or later (Core, Widgets, PrintSupport, SerialPort, Svg, Test)")
   [ ${#lacking[@]} -eq 0 ] && return
