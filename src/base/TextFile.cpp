@@ -43,13 +43,16 @@ TextReader::TextReader(const QString& path) : file_(OnDisk(path)) {
         throw RunTimeError(ErrorNumber::PermissionDenied);
     if (file_.size() > longestFile)
         throw RunTimeError(ErrorNumber::OutOfMemory);
+    end_ = file_.size();
 }
 
 bool TextReader::AtEnd() {
-    return file_.atEnd();
+    return file_.pos() >= end_ || file_.atEnd();
 }
 
 bool TextReader::Next(char& byte) {
+    if (file_.pos() >= end_)
+        return false;
     if (file_.getChar(&byte))
         return true;
     if (file_.error() != QFileDevice::NoError)
@@ -59,7 +62,7 @@ bool TextReader::Next(char& byte) {
 
 char TextReader::Peek() {
     char byte = '\0';
-    return file_.peek(&byte, 1) == 1 ? byte : '\0';
+    return file_.pos() < end_ && file_.peek(&byte, 1) == 1 ? byte : '\0';
 }
 
 // Takes the LF that belongs to a CR.

@@ -35,6 +35,8 @@ private:
     void Append(QByteArray& item, char byte);
 
     QFile file_;
+    qint64 end_ = 0; // bytes that the file had when it was opened: what another program adds
+                     // meanwhile would tear a line in two
 };
 
 /// First comma-delimited item of a line, by the rules of TextReader::InputItem.

@@ -191,7 +191,8 @@ bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes) {
 int RSComm::SendAttention() {
     const bool doubtful = inDoubt_;
     int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
-    if (reply == acknowledge && doubtful && !inDoubt_ && LetLineFallQuiet())
+    const bool timedOut = inDoubt_; // each exchange begins without doubt
+    if (reply == acknowledge && (doubtful || timedOut) && LetLineFallQuiet())
         reply = notAcknowledged;
     inDoubt_ = inDoubt_ || reply != acknowledge;
     return reply;

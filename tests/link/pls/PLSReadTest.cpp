@@ -77,10 +77,11 @@ TEST_P(EachPLSWord, StartsOverOnlyOnce) {
 // A late acknowledge would be taken for the low byte.
 TEST_P(EachPLSWord, AnAcknowledgeThatComesLateIsNoDataByte) {
     port.Reply(0x55, 1.001); // the attention
-    port.Reply(0x55, 0.010); // the attention after the time-out
+    port.Reply(0x55, 0.010); // the attention after the time-out: which of the two is in doubt
+    port.Reply(0x55);        // so that another one goes out
     port.Replies({0x55, 0x68, 0x01});
     EXPECT_EQ(Read(), QStringLiteral("360"));
-    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0xFF, Command(), 0x55, 0x55}));
+    EXPECT_EQ(port.Sent(), (Bytes{0xFF, 0xFF, 0xFF, Command(), 0x55, 0x55}));
 }
 
 TEST_F(PLSRead, CancelOfTheHandshakeGivesMinus9999AndGoesOffline) {
