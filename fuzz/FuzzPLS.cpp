@@ -19,3 +19,21 @@ void ReadAndUsePLS(const QString& hdnFile, qint16 board) {
     BuildPLSConfigArray(board);
     ConfigChanged();
 }
+
+namespace {
+constexpr qint16 standardBoard = 64;
+constexpr qint16 r6500Board = 69;
+} // namespace
+
+FuzzPLSSets::FuzzPLSSets(const QString& extension)
+    : file_(QStringLiteral("S.") + extension),
+      standardSet_(MakeFuzzFile(QStringLiteral("S.hdn"), "@\r\n")),
+      r6500Set_(MakeFuzzFile(QStringLiteral("L.hdn"), "E\r\n")) {
+    file_.AlsoAs(QStringLiteral("L.") + extension);
+}
+
+void FuzzPLSSets::Run(FuzzInput input) const {
+    file_.Put(input);
+    ReadAndUsePLS(standardSet_, standardBoard);
+    ReadAndUsePLS(r6500Set_, r6500Board);
+}
