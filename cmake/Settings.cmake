@@ -1,9 +1,22 @@
 # Compiler settings that every target of the project shares.
 add_library(quentor_settings INTERFACE)
-target_compile_options(quentor_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
 option(QUENTOR_WERROR "Treat warnings as errors" OFF)
+if(MSVC)
+  target_compile_options(quentor_settings INTERFACE /W4 /utf-8 /permissive-)
+else()
+  target_compile_options(quentor_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+endif()
 if(QUENTOR_WERROR)
-  target_compile_options(quentor_settings INTERFACE -Werror)
+  target_compile_options(quentor_settings INTERFACE $<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
+endif()
+if(QUENTOR_HARDEN)
+  include(CheckPIESupported)
+  check_pie_supported()
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  target_compile_options(quentor_settings INTERFACE
+    -fstack-protector-strong -Wformat -Werror=format-security
+    -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+  target_link_options(quentor_settings INTERFACE -Wl,-z,relro,-z,now)
 endif()
 if(QUENTOR_SANITIZE)
   target_compile_options(quentor_settings INTERFACE -fsanitize=address,undefined

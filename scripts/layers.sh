@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Fails when a source file includes a header of a layer above its own: the folders of src stand on
-# one another in one direction only. Folders of one rank know nothing of each other.
+# one another in one direction only. Folders of one rank know nothing of each other. Fails too when
+# one system's calls, headers or folders are named outside base/port and base/SystemCalls.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -40,3 +41,14 @@ git grep -n '^#include "' -- 'src/*.h' 'src/*.cpp' | awk -v ranks="$ranks" '
     wrong = 1
   }
   END { exit wrong || unknown }'
+
+# What exists on one system alone.
+headers='unistd|fcntl|termios|poll|dirent|pwd|grp|spawn|dlfcn|pthread|sched|syslog|io|direct|windows|qt_windows|winbase|sys/[a-z]+|linux/[a-z]+|net[a-z]*/[a-z]+'
+calls='ioctl|fsync|fdatasync|isatty|_isatty|statvfs|getpid|geteuid|getuid|fork|exec[lv]p?|sigaction|setenv|clock_gettime|localtime_r|strcasecmp|udev_[a-z_]+|GetShortPathName[AW]?|GetDriveType[AW]?'
+folders='dev|proc|sys|etc|usr|var|tmp|home'
+if git grep -nE "#include <($headers)(\.h)?>|\b($calls) ?\(|\"/($folders)(/|\")|Q_OS_|\b_WIN32\b|\b__linux__\b" \
+  -- 'src/*.h' 'src/*.cpp' ':!src/base/port' ':!src/base/SystemCalls.*' |
+  grep -vE '^[^:]*:[0-9]+: *//'; then
+  echo 'one system alone: the lines above belong into src/base/port or src/base/SystemCalls.cpp' >&2
+  exit 1
+fi

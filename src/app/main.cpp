@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
     QApplication qt(argc, argv);
     QCoreApplication::setApplicationName(ProgramVersion().title);
     QCoreApplication::setApplicationVersion(ProgramVersion().Number());
-    QGuiApplication::setDesktopFileName(QStringLiteral("quentor"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("halden.suite.quentor"));
 
     const ApplicationFolder folder = FindOwnFolder();
     SystemClock clock;

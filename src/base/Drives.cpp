@@ -1,71 +1,18 @@
 #include "base/Drives.h"
 
+#include "base/SystemCalls.h"
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
 
-#ifdef Q_OS_WIN
-#include <qt_windows.h>
-#endif
-
 namespace {
-bool IsOneOf(const QByteArray& word, std::initializer_list<const char*> words) {
-    for (const char* known : words)
-        if (word == known)
-            return true;
-    return false;
-}
-
-#ifdef Q_OS_WIN
-DriveType TypeOfVolume(const QStorageInfo& volume) {
-    switch (GetDriveTypeW(QDir::toNativeSeparators(volume.rootPath()).toStdWString().c_str())) {
-    case DRIVE_REMOVABLE:
-        return DriveType::Removable;
-    case DRIVE_FIXED:
-        return DriveType::Fixed;
-    case DRIVE_REMOTE:
-        return DriveType::Network;
-    case DRIVE_CDROM:
-        return DriveType::CDRom;
-    case DRIVE_RAMDISK:
-        return DriveType::RamDisk;
-    default:
-        return DriveType::Unknown;
-    }
-}
-#else
-bool HoldsOne(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.readAll().trimmed() == "1";
-}
-
-// A partition has no such entry of its own: its disk, the folder above, has.
-bool IsRemovable(const QByteArray& device) {
-    const QString name =
-        QFileInfo(QFileInfo(QString::fromLocal8Bit(device)).canonicalFilePath()).fileName();
-    const QString node = QFileInfo(QStringLiteral("/sys/class/block/") + name).canonicalFilePath();
-    if (name.isEmpty() || node.isEmpty())
-        return false;
-    return HoldsOne(node + QStringLiteral("/removable")) ||
-           HoldsOne(QFileInfo(node).path() + QStringLiteral("/removable"));
-}
-
-DriveType TypeOfVolume(const QStorageInfo& volume) {
-    return DriveTypeOf(volume.fileSystemType(), volume.device(), IsRemovable(volume.device()));
-}
-#endif
-
 // Mounts of the system's own workings hold no user's files.
 bool HoldsUsersFiles(const QStorageInfo& volume) {
     if (volume.isRoot())
         return true;
     if (!volume.isReady() || !QFileInfo(volume.rootPath()).isDir())
         return false;
-    const QByteArray device = volume.device();
-    const DriveType type = TypeOfVolume(volume);
-    return type == DriveType::Network || !QDir::rootPath().startsWith(u'/') ||
-           (device.startsWith("/dev/") && !device.startsWith("/dev/loop"));
+    return TypeOfVolume(volume) == DriveType::Network || IsDeviceOfUsers(volume.device());
 }
 
 QString NearestExisting(QString path) {
@@ -107,16 +54,4 @@ Drive SystemDrives::At(const QString& root) const {
     drive.type = TypeOfVolume(volume);
     drive.availableSpace = volume.bytesAvailable();
     return drive;
-}
-
-DriveType DriveTypeOf(const QByteArray& fileSystem, const QByteArray& device, bool isRemovable) {
-    if (IsOneOf(fileSystem, {"iso9660", "udf"}))
-        return DriveType::CDRom;
-    if (IsOneOf(fileSystem, {"nfs", "nfs4", "cifs", "smb3", "smbfs", "fuse.sshfs", "9p"}))
-        return DriveType::Network;
-    if (IsOneOf(fileSystem, {"tmpfs", "ramfs"}))
-        return DriveType::RamDisk;
-    if (isRemovable)
-        return DriveType::Removable;
-    return device.startsWith("/dev/") ? DriveType::Fixed : DriveType::Unknown;
 }

@@ -36,7 +36,3 @@ public:
     QString RootOf(const QString& path) const override;
     Drive At(const QString& root) const override;
 };
-
-/// Kind of a drive by the name of its file system, its device and what the kernel says about the
-/// device being removable.
-DriveType DriveTypeOf(const QByteArray& fileSystem, const QByteArray& device, bool isRemovable);

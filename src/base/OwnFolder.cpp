@@ -1,12 +1,15 @@
 #include "base/OwnFolder.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QStandardPaths>
 
 ApplicationFolder FindOwnFolder() {
     const QString userFolder =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
         QStringLiteral("/quentor");
-    return ApplicationFolder::Locate(QCoreApplication::applicationDirPath(), userFolder,
-                                     QStringLiteral(QUENTOR_INSTALLED_DEFAULTS));
+    const QString executables = QCoreApplication::applicationDirPath();
+    return ApplicationFolder::Locate(
+        executables, userFolder,
+        QDir(executables).absoluteFilePath(QStringLiteral(QUENTOR_INSTALLED_DEFAULTS)));
 }

@@ -1,9 +1,9 @@
 #include "base/TextFile.h"
 
 #include "base/CharacterSet.h"
-#include "base/FlushToDisk.h"
 #include "base/RunTimeError.h"
 #include "base/Siblings.h"
+#include "base/SystemCalls.h"
 #include <QFileInfo>
 #include <QSaveFile>
 #include <utility>

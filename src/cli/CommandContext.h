@@ -25,6 +25,8 @@ struct CommandPlatform {
     const SerialPorts& ports;
     /// The port, closed, whose devices are named by the links of this folder.
     std::function<MSComm&(const ApplicationFolder& links)> port;
+    /// Starts the program with windows and does not wait for it. Raises as ProcessStart::Shell.
+    std::function<void()> startQuentor;
     /// The user has interrupted the program.
     std::function<bool()> interrupted;
 };

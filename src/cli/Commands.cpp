@@ -4,8 +4,9 @@
 #include <array>
 
 namespace {
-constexpr std::array<Command, 13> commands = {{
+constexpr std::array<Command, 14> commands = {{
     {"ports", "", "list the serial ports", false, ListPortsCommand},
+    {"open", "[file.hdn]", "start Quentor, with this set selected", false, OpenCommand},
     {"read", "variable...", "read variables (with --set or --model)", false, ReadCommand},
     {"write", "variable=value...", "write variables (with --set or --model)", false, WriteCommand},
     {"dump", "file.hdn", "download the program of a set into the board", true, DumpCommand},

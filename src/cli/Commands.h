@@ -24,6 +24,9 @@ const Command* FindCommand(const QString& name);
 
 /// The serial ports of the computer.
 Outcome ListPortsCommand(CommandContext& context);
+/// Starts the program with windows. A set becomes the newest of its list of last sets first, which
+/// it selects at its start; a running one does not take notice.
+Outcome OpenCommand(CommandContext& context);
 /// Values of variables, read one after the other.
 Outcome ReadCommand(CommandContext& context);
 /// Writes "variable=value" pairs, in order, up to the first that fails.

@@ -1,6 +1,6 @@
 #include "cli/Console.h"
 
-#include "base/Terminal.h"
+#include "base/SystemCalls.h"
 #include <algorithm>
 #include <csignal>
 #include <cstdio>

@@ -1,6 +1,6 @@
 #include "programset/FileOperations.h"
 
-#include "base/FlushToDisk.h"
+#include "base/SystemCalls.h"
 #include "base/TextFile.h"
 #include <QDir>
 #include <QFile>

@@ -1,13 +1,9 @@
 #include "programset/ShortName.h"
 
 #include "base/FileSystem.h"
-#include <QSet>
-
-#ifdef Q_OS_WIN
-#include <QDir>
+#include "base/SystemCalls.h"
 #include <QFile>
-#include <qt_windows.h>
-#endif
+#include <QSet>
 
 namespace {
 constexpr qsizetype longestStem = 6;
@@ -20,21 +16,10 @@ QString LettersAndDigits(const QString& name) {
     return kept;
 }
 
-#ifdef Q_OS_WIN
-// Short path of an existing file or folder; the path itself if the volume makes no short names.
-QString SystemShortPath(const QString& path) {
-    const std::wstring wide = QDir::toNativeSeparators(path).toStdWString();
-    std::wstring shortPath(32768, L'\0');
-    const DWORD length =
-        GetShortPathNameW(wide.c_str(), shortPath.data(), static_cast<DWORD>(shortPath.size()));
-    if (length == 0 || length >= shortPath.size())
-        return path;
-    shortPath.resize(length);
-    return QDir::fromNativeSeparators(QString::fromStdWString(shortPath));
-}
-
 // The system gives a name its short form only while a file bears it.
 QString SystemShortBaseName(const QString& folder, const QString& baseName) {
+    if (!SystemMakesShortNames())
+        return QString();
     const FileSystem files;
     QFile probe(files.BuildPath(folder, baseName + QStringLiteral(".HDN")));
     if (probe.exists() || !probe.open(QIODevice::WriteOnly | QIODevice::NewOnly))
@@ -44,7 +29,6 @@ QString SystemShortBaseName(const QString& folder, const QString& baseName) {
     probe.remove();
     return found.size() <= longestShortName ? found : QString();
 }
-#endif
 } // namespace
 
 QString ShortFormOf(const QString& baseName, const QStringList& taken) {
@@ -65,11 +49,9 @@ QString ShortFormOf(const QString& baseName, const QStringList& taken) {
 QString ShortBaseName(const QString& folder, const QString& baseName) {
     if (baseName.size() <= longestShortName)
         return baseName;
-#ifdef Q_OS_WIN
     const QString systemName = SystemShortBaseName(folder, baseName);
     if (!systemName.isEmpty())
         return systemName;
-#endif
     const FileSystem files;
     QStringList taken;
     for (const QString& name : files.Files(folder))
@@ -78,9 +60,5 @@ QString ShortBaseName(const QString& folder, const QString& baseName) {
 }
 
 QString ShortFolderPath(const QString& folder) {
-#ifdef Q_OS_WIN
     return SystemShortPath(folder);
-#else
-    return folder;
-#endif
 }

@@ -13,6 +13,7 @@ static void BringInIcons() {
 
 namespace {
 constexpr double fadedOpacity = 0.38;
+constexpr int largestSmallIcon = 24; // pixels
 
 // The picture without its colours and let through by the ground, light or dark.
 QPixmap Faded(const QPixmap& picture) {
@@ -31,11 +32,14 @@ QPixmap Faded(const QPixmap& picture) {
 // a disabled icon in mid tones is hardly told from an enabled one on a dark ground.
 class ShellIconEngine final : public QIconEngine {
 public:
-    explicit ShellIconEngine(QIcon drawn) : drawn_(std::move(drawn)) {}
+    /// `small` is the drawing for few pixels; the other one where there is none of its own.
+    explicit ShellIconEngine(QIcon drawn, QIcon small = {})
+        : drawn_(std::move(drawn)), small_(std::move(small)) {}
 
-    QIconEngine* clone() const override { return new ShellIconEngine(drawn_); }
+    QIconEngine* clone() const override { return new ShellIconEngine(drawn_, small_); }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
-        const QPixmap picture = drawn_.pixmap(size, 1.0);
+        const bool isSmall = !small_.isNull() && size.height() <= largestSmallIcon;
+        const QPixmap picture = (isSmall ? small_ : drawn_).pixmap(size, 1.0);
         return mode == QIcon::Disabled ? Faded(picture) : picture;
     }
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
@@ -46,6 +50,7 @@ public:
 
 private:
     QIcon drawn_;
+    QIcon small_;
 };
 
 QIcon DrawnIcon(const QString& name) {
@@ -65,6 +70,11 @@ QPixmap Tinted(QPixmap picture, const QColor& colour) {
 
 QIcon ShellIcon(const QString& name) {
     return QIcon(new ShellIconEngine(DrawnIcon(name)));
+}
+
+QIcon ProgramIcon() {
+    return QIcon(new ShellIconEngine(DrawnIcon(QStringLiteral("Quentor")),
+                                     DrawnIcon(QStringLiteral("QuentorSmall"))));
 }
 
 QIcon ListIcon(const QString& name) {

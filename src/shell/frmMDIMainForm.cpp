@@ -16,7 +16,7 @@ constexpr QSize smallestSize(640, 400);
 void frmMDIMain::BuildForm() {
     setObjectName(QStringLiteral("frmMDIMain"));
     setWindowTitle(QStringLiteral("Quentor"));
-    setWindowIcon(ShellIcon(QStringLiteral("Quentor")));
+    setWindowIcon(ProgramIcon());
     setContextMenuPolicy(Qt::NoContextMenu); // the toolbar stays
     setMinimumSize(smallestSize);
     area_ = new QMdiArea;

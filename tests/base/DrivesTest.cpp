@@ -1,5 +1,6 @@
 #include "base/Drives.h"
 
+#include "base/SystemCalls.h"
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QTemporaryDir>

@@ -37,7 +37,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "write --model K2012 B100=-1", "write --model K2012 B100=256",
                     "write --model K2012 W100=65536", "write --model K2012 B100.1=2",
                     "write --model K2012 B100=1 B101=x", "dump --yes", "dump --yes a b",
-                    "dump --yes A.hex", "ports 1", "faults 1",
+                    "dump --yes A.hex", "ports 1", "open a b", "open A.hex", "faults 1",
                     "data-download --yes --from x @A.hdn", "data-download --yes --from 31 @A.hdn",
                     "data-upload --yes --from 200 --to 100 @A.hdn"));
 

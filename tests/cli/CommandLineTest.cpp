@@ -28,6 +28,7 @@ ExitCode CommandLineTest::Run(const QString& words) {
                                    applicationFolder,
                                    ports,
                                    [this](const ApplicationFolder&) -> MSComm& { return *port; },
+                                   [this] { ++starts; },
                                    [this] { return interrupted; }};
     const auto code = static_cast<ExitCode>(RunCommandLine(all, platform));
     EXPECT_FALSE(port->PortOpen());

@@ -61,6 +61,7 @@ protected:
     VirtualClock clock;
     KeptConsole console;
     ScriptedSerialPorts ports;
+    int starts = 0; ///< of the program with windows
     bool interrupted = false;
     std::unique_ptr<haldenboard::SimulatedBoard> board;
     std::unique_ptr<haldenboard::Line> line;
