@@ -9,11 +9,12 @@ cd "$root"
 # shellcheck source=scripts/setup.sh
 . scripts/setup.sh
 [ "$(id -u)" -eq 0 ] || { say 'scripts/package-check.sh makes a chroot: run it as root.'; exit 1; }
-setup lintian desktop-file-utils appstream debootstrap dpkg-dev man-db xvfb openbox wmctrl xdotool imagemagick
+setup lintian desktop-file-utils appstream debootstrap dpkg-dev man-db xvfb openbox wmctrl xdotool x11-utils imagemagick
 
 release=bookworm
-mirror=${DEBIAN_MIRROR:-$(sed -nE 's/^(URIs: +|deb +(\[[^]]*\] +)?)(http[^ ]*debian)\/?( .*)?$/\3/p' \
-  /etc/apt/sources.list.d/debian.sources /etc/apt/sources.list 2>/dev/null | head -n 1)}
+# The mirror that this machine's apt has.
+sources() { cat /etc/apt/sources.list.d/debian.sources /etc/apt/sources.list 2>/dev/null || true; }
+mirror=$(sources | sed -nE 's/^(URIs: +|deb +(\[[^]]*\] +)?)(http[^ ]*debian)\/?( .*)?$/\3/p' | head -n 1)
 work=$(mktemp -d)
 system=$work/system
 display=
@@ -32,17 +33,18 @@ clean_up() {
   stop "$manager"
   stop "$display"
   for place in usr dev/pts proc; do
-    while mountpoint -q "$system/$place"; do umount "$system/$place"; done
+    if mountpoint -q "$system/$place"; then
+      umount "$system/$place" || umount --lazy "$system/$place"
+    fi
   done
   rm -rf --one-file-system "$work"
 }
 trap clean_up EXIT
 
 as_root() { chroot "$system" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 "$@"; }
-as_user() {
-  chroot --userspec=engineer:engineer "$system" /usr/bin/env -i PATH=/usr/bin:/bin \
-    HOME=/home/engineer LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=/home/engineer/run "$@"
-}
+user=(chroot --userspec=engineer:engineer "$system" /usr/bin/env -i PATH=/usr/bin:/bin
+  HOME=/home/engineer LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=/home/engineer/run)
+as_user() { "${user[@]}" "$@"; }
 
 # Two builds of one state are one file: times come from the change log.
 build_package() {
@@ -112,10 +114,10 @@ install_package() {
   files_of_system >"$work/before"
   as_root DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     "/tmp/$(basename "$package")" >"$work/apt.log" 2>&1 || { tail "$work/apt.log" >&2; fail 'the package'; }
-  as_root sh -c 'cat /usr/share/mime/globs2' | grep -q 'application/x-halden-program-set:\*.hdn' ||
+  grep -q 'application/x-halden-program-set:\*.hdn' "$system/usr/share/mime/globs2" ||
     fail 'the file type is not known'
-  as_root grep -q 'x-halden-program-set=halden.suite.quentor.desktop' \
-    /usr/share/applications/mimeinfo.cache || fail 'no program for the file type'
+  grep -q 'x-halden-program-set=halden.suite.quentor.desktop' \
+    "$system/usr/share/applications/mimeinfo.cache" || fail 'no program for the file type'
   mount --bind "$system/usr" "$system/usr"
   mount -o remount,bind,ro "$system/usr"
   ! as_root touch /usr/share/quentor/mark 2>/dev/null || fail '/usr can be written'
@@ -131,16 +133,16 @@ start_display() {
   manager=$!
 }
 
-windows() { wmctrl -lx | grep -c 'quentor.Quentor' || true; }
+windows() { wmctrl -lx 2>/dev/null | grep -c 'quentor.Quentor' || true; }
 
 # windows_become COUNT: so many windows of the program are up.
 windows_become() {
-  for _ in $(seq 300); do
+  for _ in $(seq 1200); do
     [ "$(windows)" -ne "$1" ] || return 0
     sleep 0.1
   done
   import -window root "$root/build/package/package-check.png" || true
-  fail "not $1 windows after half a minute; see build/package/package-check.png"
+  fail "not $1 windows after two minutes; see build/package/package-check.png"
 }
 
 # Answers the splash view and closes the main window as a user does.
@@ -149,6 +151,8 @@ leave_program() {
   xdotool key --clearmodifiers Return
   windows_become 1
   import -window root "$root/build/package/$1.png"
+  xprop -name Quentor _NET_WM_ICON >"$work/icon"
+  grep -q '16 x 16' "$work/icon" || fail 'the window has no icon: SVG is not drawn'
   wmctrl -xc quentor.Quentor
   windows_become 0
 }
@@ -157,12 +161,15 @@ run_program() {
   headline 'the program: first start'
   mkfifo "$work/display"
   start_display
-  as_user DISPLAY="$DISPLAY" quentor 2>"$work/quentor.log" &
+  "${user[@]}" DISPLAY="$DISPLAY" quentor 2>"$work/quentor.log" &
   program=$!
   leave_program first-start
   wait "$program" || fail "quentor ended with code $?: $(cat "$work/quentor.log")"
-  as_user diff -r /usr/share/quentor/support /home/engineer/.local/share/quentor/support |
-    grep -v '^Only in /home' && fail 'the first start did not fill the application folder'
+  local file
+  for file in "$system"/usr/share/quentor/support/*; do
+    cmp "$file" "$system/home/engineer/.local/share/quentor/support/$(basename "$file")" ||
+      fail 'the first start did not fill the application folder'
+  done
 
   headline 'the program: a double-click on a program set'
   as_user cp -r /usr/share/doc/quentor/examples /home/engineer/sets
@@ -178,7 +185,7 @@ run_command_line() {
   as_user quentor-cli --help >"$work/help"
   grep -q '^Exit codes:' "$work/help" || fail 'quentor-cli --help'
   mkfifo "$work/orders"
-  as_user halden-board --link /home/engineer/board --model 54 --unpaced --exit-with-stdin \
+  "${user[@]}" halden-board --link /home/engineer/board --model 54 --unpaced --exit-with-stdin \
     <"$work/orders" >"$work/board.log" &
   board=$!
   exec 7>"$work/orders"

@@ -2,9 +2,9 @@
 
 #include <QIcon>
 
-/// An icon of the main window by name: a toolbar key ("Program"), "Folder", "FolderOpen",
-/// "TreeImage1" to "TreeImage3". Drawn in mid tones, so that it is
-/// legible on light and on dark grounds; faded while disabled.
+/// An icon of the main window by name: a toolbar key ("Program"), "Folder", "FolderOpen" or
+/// "TreeImage1" to "TreeImage3". Drawn in mid tones, so that it is legible on light and on dark
+/// grounds; faded while disabled.
 QIcon ShellIcon(const QString& name);
 
 /// The program's own icon, of its windows; up to 24 pixels a drawing with fewer lines.

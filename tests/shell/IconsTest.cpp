@@ -64,3 +64,12 @@ TEST(Icon, IsDrawnAtTheSizeThatIsWanted) {
 INSTANTIATE_TEST_SUITE_P(OnLightAndDark, Icons, testing::Values(239, 45), [](const auto& ground) {
     return "Ground" + std::to_string(ground.param);
 });
+
+TEST(Icon, OfTheProgramHasSharpEdgesAtSixteenPixels) {
+    const QImage small = ProgramIcon().pixmap(QSize(16, 16), 1.0).toImage();
+    EXPECT_EQ(small.pixelColor(7, 6), QColor(0xff, 0xb9, 0x38)); // the pulse on the display
+    EXPECT_EQ(small.pixelColor(7, 5), QColor(0x12, 0x30, 0x4c)); // the display above it
+    const QImage large = ProgramIcon().pixmap(QSize(size, size), 1.0).toImage();
+    EXPECT_EQ(large, ShellIcon(QStringLiteral("Quentor")).pixmap(QSize(size, size), 1.0).toImage());
+    EXPECT_NE(small, ShellIcon(QStringLiteral("Quentor")).pixmap(QSize(16, 16), 1.0).toImage());
+}
