@@ -103,7 +103,6 @@ files_of_system() {
 
 install_package() {
   headline 'installation'
-  cp "$package" "$system/tmp/"
   # What the package needs comes first, so that its own files alone are seen to come and go.
   local depends
   depends=$(dpkg-deb -f "$package" Depends | sed -E 's/ *\([^)]*\)//g; s/,/ /g; s/ \| [^ ]+//g')
@@ -112,6 +111,7 @@ install_package() {
     $depends desktop-file-utils hicolor-icon-theme shared-mime-info >"$work/apt.log" 2>&1 ||
     { tail "$work/apt.log" >&2; fail 'the dependencies'; }
   files_of_system >"$work/before"
+  cp "$package" "$system/tmp/"
   as_root DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     "/tmp/$(basename "$package")" >"$work/apt.log" 2>&1 || { tail "$work/apt.log" >&2; fail 'the package'; }
   grep -q 'application/x-halden-program-set:\*.hdn' "$system/usr/share/mime/globs2" ||
@@ -131,30 +131,35 @@ start_display() {
   export DISPLAY=:$number
   openbox >"$work/openbox.log" 2>&1 &
   manager=$!
+  wait_for 'the window manager' wmctrl -m
+}
+
+# wait_for WHAT COMMAND...: until the command succeeds, two minutes at most.
+wait_for() {
+  local what=$1 turn
+  shift
+  for ((turn = 0; turn < 1200; ++turn)); do
+    ! "$@" >/dev/null 2>&1 || return 0
+    sleep 0.1
+  done
+  [ -z "$display" ] || import -window root "$root/build/package/package-check.png" || true
+  fail "$what: not within two minutes"
 }
 
 windows() { wmctrl -lx 2>/dev/null | grep -c 'quentor.Quentor' || true; }
 
-# windows_become COUNT: so many windows of the program are up.
-windows_become() {
-  for _ in $(seq 1200); do
-    [ "$(windows)" -ne "$1" ] || return 0
-    sleep 0.1
-  done
-  import -window root "$root/build/package/package-check.png" || true
-  fail "not $1 windows after two minutes; see build/package/package-check.png"
-}
+windows_are() { [ "$(windows)" -eq "$1" ]; }
 
 # Answers the splash view and closes the main window as a user does.
 leave_program() {
-  windows_become 2
+  wait_for 'main window and splash view' windows_are 2
   xdotool key --clearmodifiers Return
-  windows_become 1
+  wait_for 'the end of the splash view' windows_are 1
   import -window root "$root/build/package/$1.png"
   xprop -name Quentor _NET_WM_ICON >"$work/icon"
   grep -q '16 x 16' "$work/icon" || fail 'the window has no icon: SVG is not drawn'
   wmctrl -xc quentor.Quentor
-  windows_become 0
+  wait_for 'the end of the program' windows_are 0
 }
 
 run_program() {
@@ -189,7 +194,7 @@ run_command_line() {
     <"$work/orders" >"$work/board.log" &
   board=$!
   exec 7>"$work/orders"
-  timeout 30 sh -c "until grep -q ready $work/board.log; do sleep 0.1; done" || fail "halden-board is not ready"
+  wait_for halden-board grep -q ready "$work/board.log"
   cli() { as_user quentor-cli --port /home/engineer/board "$@"; }
   cli dump --yes /home/engineer/sets/LINE2.hdn </dev/null
   cli verify /home/engineer/sets/LINE2.hdn </dev/null

@@ -22,7 +22,8 @@ QString WithoutControls(const QString& text) {
     QString clean = text;
     std::replace_if(
         clean.begin(), clean.end(),
-        [](QChar c) { return c != u'\n' && c.category() == QChar::Other_Control; }, QChar(u'?'));
+        [](QChar c) { return c != u'\n' && c != u'\t' && c.category() == QChar::Other_Control; },
+        QChar(u'?'));
     return clean;
 }
 
@@ -39,7 +40,7 @@ void StandardConsole::Err(const QString& text) {
 void StandardConsole::ShowProgress(const QString& line) {
     if (!ErrorIsTerminal())
         return;
-    const QString shown = WithoutControls(line).left(progressWidth);
+    const QString shown = WithoutControls(line).replace(u'\t', u' ').left(progressWidth);
     Put(stderr, '\r' + shown.leftJustified(progressLength_).toLocal8Bit());
     progressLength_ = shown.size();
 }

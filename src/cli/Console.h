@@ -20,7 +20,8 @@ public:
     virtual QString Ask(const QString& prompt) = 0;
 };
 
-/// `text` with a "?" for each control character but LF.
+/// `text` with a "?" for each control character but LF and the tab, by which texts of several lines
+/// stand in columns.
 QString WithoutControls(const QString& text);
 
 /// The streams of the process. Results are UTF-8, messages in the user's own character set.
