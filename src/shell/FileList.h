@@ -25,8 +25,8 @@ public:
     void Refresh();
     /// Name of the selected file, empty when none is.
     QString FileName() const;
-    /// Selects the first file of this name whatever its letter case and emits Clicked, as a click
-    /// does. Without such a file nothing changes.
+    /// Selects the file of this name, or without one the first whose name differs in letter case
+    /// only, and emits Clicked, as a click does. Without either nothing changes.
     void SelectFile(const QString& name);
 
 Q_SIGNALS:
