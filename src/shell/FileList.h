@@ -32,8 +32,11 @@ public:
 Q_SIGNALS:
     /// A file was selected, by the user or by the program.
     void Clicked();
+    /// A double-click of the left button on a file.
     void DoubleClicked();
+    /// Return or Enter in the list, whether a file is selected or not.
     void EnterPressed();
+    /// The Delete key in the list, likewise.
     void DeletePressed();
     /// The right mouse button or the menu key, at a point of the screen.
     void PopupRequested(const QPoint& position);

@@ -61,6 +61,21 @@ TEST_F(ViewEntries, TheBoardButtonTakesTheSelectedSetWithoutADialog) {
     EXPECT_TRUE(dialogs_.FileRequests().empty());
 }
 
+TEST_F(ViewEntries, CancelOfTheFileDialogEndsEveryCommandThatAsksForASet) {
+    for (const char* entry :
+         {"mnuFileDelete", "mnuFileRename", "mnuFileDownloadProgram", "mnuFileDownloadData",
+          "mnuFileDownloadToPLS", "mnuFileUploadData", "mnuFileUploadFromPLS",
+          "mnuViewTargetBoardStatus", "mnuViewCompileErrors"}) {
+        dialogs_.ExpectOpen(QString());
+        Entry(QString::fromLatin1(entry))->trigger();
+        EXPECT_EQ(gHdnFile, SetPath(QStringLiteral("UNIT.hdn"))) << entry;
+        EXPECT_TRUE(Window().Timer().Enabled()) << entry;
+    }
+    EXPECT_EQ(dialogs_.FileRequests().size(), 9u);
+    EXPECT_TRUE(dialogs_.Boxes().empty());
+    EXPECT_TRUE(port_.Sent().empty());
+}
+
 TEST_F(ViewEntries, CommPortShowsThePortSettings) {
     bool up = false;
     WhenUp("frmSetupComm", [&up](QWidget& view) {

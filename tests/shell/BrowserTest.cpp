@@ -221,6 +221,7 @@ TEST_F(Browser, ADoubleClickBeforeTheFirstActivationDoesNothing) {
     Window().Browser().gFormLoaded = true;
     QTest::mouseDClick(Files()->viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
     EXPECT_EQ(gHdnFile, Window().SelectedProgramPath());
+    EXPECT_TRUE(tools_.commands.isEmpty());
 }
 
 TEST_F(Browser, WithNothingSelectedThePathEndsWithASeparator) {
