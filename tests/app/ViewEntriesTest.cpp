@@ -1,9 +1,7 @@
 #include "session/Globals.h"
-#include "shell/frmMain.h"
 #include "shell/frmMDIMain.h"
 #include "WholeProgram.h"
 #include <QAction>
-#include <QComboBox>
 #include <QTest>
 
 namespace {
