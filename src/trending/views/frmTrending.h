@@ -109,6 +109,6 @@ private:
     bool viewRunning_ = false; ///< from activation until the view is closed
     bool graphRequested_ = false;
     bool graphDrawn_ = false; ///< the axes have been drawn once
-    bool firstPass_ = true;
-    QString lastPath_; ///< of the file opened or saved last
+    bool firstPass_ = false;  ///< the loop has not gone round since the view was activated
+    QString lastPath_;        ///< of the file opened or saved last
 };
