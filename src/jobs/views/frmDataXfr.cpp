@@ -141,10 +141,20 @@ bool frmDataXfr::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && TakesKey(*entry, *static_cast<QKeyEvent*>(event)))
         return true;
     if (event->type() == QEvent::FocusIn)
-        SelectAllText(*txtRange_.at(*entry));
+        txtRange_GotFocus(*entry, static_cast<QFocusEvent*>(event)->reason());
     if (event->type() == QEvent::FocusOut && IsWithinProgram(*static_cast<QFocusEvent*>(event)))
         txtRange_LostFocus(*entry);
     return QDialog::eventFilter(watched, event);
+}
+
+// The click that brings the focus still has to place its cursor: the text is selected after that.
+void frmDataXfr::txtRange_GotFocus(int index, Qt::FocusReason reason) {
+    QLineEdit* entry = txtRange_.at(index);
+    if (reason == Qt::MouseFocusReason)
+        QMetaObject::invokeMethod(
+            entry, [entry] { SelectAllText(*entry); }, Qt::QueuedConnection);
+    else
+        SelectAllText(*entry);
 }
 
 // Return moves on like Tab, the up and down keys step like the arrows.
