@@ -16,7 +16,8 @@ struct TableAddress {
     qint64 WholeNumber() const;
     /// The bit, 0 to 9; 0 where isBit is false or the last character is no digit.
     int Bit() const;
-    /// Whether the number is one: digits all through and, where a point stands, a bit behind it.
+    /// Whether the number is one: digits all through, without sign or exponent, and, where a point
+    /// stands, one bit digit behind it. Blanks around it do not count.
     bool IsNumber() const;
 };
 

@@ -122,6 +122,8 @@ TEST(PastedAddress, IsCheckedAsIfTyped) {
 TEST(PastedAddress, ThatWouldLoseACharacterIsRefusedWhole) {
     EXPECT_EQ(PastedAddress("X10", 51), QString()); // "10" is what typing would leave of it
     EXPECT_EQ(PastedAddress("B1000000", 50), QString());
+    EXPECT_EQ(PastedAddress("B1E2", 50), QString());
+    EXPECT_EQ(PastedAddress("W20H", 50), QString());
     EXPECT_EQ(PastedAddress("Motor", 50), QString());
     EXPECT_EQ(PastedAddress("", 50), QString());
 }

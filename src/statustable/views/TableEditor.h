@@ -55,6 +55,7 @@ private:
     void WriteValue(const QString& variable, const QString& value);
     void AcceptAddress(int row, const QString& text, const QString& working);
     void EmptyRow(int row);
+    void EmptyCells(int row, int firstCol);
     int RoomForRows(int first, int count);
     bool IsAppendRow(int row) const;
     void ShowBelow(int row);
