@@ -15,6 +15,7 @@ struct TableState;
 class TableEditor final : public QObject {
     Q_OBJECT
 public:
+    /// All must outlive the object. It takes the keys of the grid.
     TableEditor(Grid& grid, RSComm& link, Dialogs& dialogs, TableState& state);
 
     /// Whether Return on an address fills the next row with the next address.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -305,12 +306,18 @@ TEST_F(StatusTableTyping, CopyTakesTheSelectedCells) {
     grid().SetTextMatrix(2, 2, "5");
     table.Press(Qt::Key_Down, Qt::ShiftModifier);
     table.Press(Qt::Key_Right, Qt::ShiftModifier);
+    QGuiApplication::clipboard()->setText("before");
     table.view->StatusTableCopyClip();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().remove('\r'), QString("B100\t5\nW200\t"));
+    QGuiApplication::clipboard()->setText("before");
+    table.Press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text().remove('\r'), QString("B100\t5\nW200\t"));
 }
 
 TEST_F(StatusTableTyping, TheRightButtonOpensTheMenu) {
-    Q_EMIT grid().customContextMenuRequested(QPoint(5, 5));
+    const QPoint place(5, 5);
+    QContextMenuEvent click(QContextMenuEvent::Mouse, place, grid().viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(grid().viewport(), &click);
     EXPECT_EQ(table.host.popUps, 1);
 }
 
