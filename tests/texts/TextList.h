@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <vector>
 
 /// One text of a list, as it stands on the screen.
