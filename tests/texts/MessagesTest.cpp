@@ -10,11 +10,10 @@
 // the program into it, and fails unless exactly this box comes.
 
 namespace {
-// A place where tests say something: the tests of a subject, a folder below tests, or one call.
-using Places = QSet<QString>;
-
+// Where tests say something: in which sources, and in the tests of which subjects (folders below
+// tests).
 struct Said {
-    Places subjects, calls;
+    QSet<QString> sources, subjects;
 };
 
 // What the tests of this house say, and where.
@@ -26,7 +25,7 @@ public:
             for (const SourceText& expression : TextsOfSource(ReadSource(path))) {
                 Said& said = said_[WithoutEnd(expression.text)];
                 said.subjects.insert(subject);
-                said.calls.insert(path + u':' + QString::number(expression.statement));
+                said.sources.insert(path);
             }
         }
     }
@@ -40,7 +39,7 @@ public:
         for (auto text = said_.begin(); text != said_.end(); ++text)
             if (text.key().contains(fixed) && pattern.match(text.key()).hasMatch()) {
                 all.subjects.unite(text->subjects);
-                all.calls.unite(text->calls);
+                all.sources.unite(text->sources);
             }
         return all;
     }
@@ -73,15 +72,15 @@ private:
     QHash<QString, Said> said_;
 };
 
-// Many boxes have the text of the common report: there, one call must say text and title. For any
+// Many boxes have the text of the common report: there, one source must say text and title. For any
 // other text it is enough that both stand in the tests of one subject, whose helpers join them.
 bool IsShownByATest(const TestTexts& tests, const ListedText& row) {
     const Said texts = tests.Of(row.text);
     if (row.title == variablePlace) // the name of a file
-        return !texts.calls.isEmpty();
+        return !texts.sources.isEmpty();
     const Said titles = tests.Of(row.title);
     const bool report = row.text.startsWith(QStringLiteral("Error Number = "));
-    return report ? titles.calls.intersects(texts.calls)
+    return report ? titles.sources.intersects(texts.sources)
                   : titles.subjects.intersects(texts.subjects);
 }
 } // namespace

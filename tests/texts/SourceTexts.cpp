@@ -43,10 +43,8 @@ private:
             ReadRaw();
         else if (here == u'"' || (here == u'\'' && !PartsDigits()))
             ReadLiteral(here);
-        else if (here == u',')
+        else if (QStringLiteral(",;{}").contains(here))
             EndExpression();
-        else if (QStringLiteral(";{}").contains(here))
-            EndStatement();
         else
             between_ += here;
         ++place_;
@@ -108,8 +106,7 @@ private:
     void Add(qsizetype literal, const QString& text) {
         const bool apart = !between_.remove(Wrapping()).isEmpty();
         if (!open_)
-            texts_.push_back(
-                {static_cast<int>(source_.left(literal).count(u'\n')) + 1, statement_, {}});
+            texts_.push_back({static_cast<int>(source_.left(literal).count(u'\n')) + 1, {}});
         else if (apart)
             texts_.back().text += variablePlace;
         texts_.back().text += text;
@@ -124,14 +121,8 @@ private:
         between_.clear();
     }
 
-    void EndStatement() {
-        EndExpression();
-        ++statement_;
-    }
-
     const QString source_;
     qsizetype place_ = 0;
-    int statement_ = 0;
     std::vector<SourceText> texts_;
     QString between_;   // code since the last literal or the beginning of the expression
     bool open_ = false; // the last text may go on

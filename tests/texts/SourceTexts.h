@@ -7,8 +7,7 @@
 /// program sees them. Literals that stand side by side or are added are one text; where the code
 /// puts something between two of them stands a variablePlace (TextList.h).
 struct SourceText {
-    int line = 0;      ///< of its first literal, counted from 1
-    int statement = 0; ///< number of its statement: those of one call share it
+    int line = 0; ///< of its first literal, counted from 1
     QString text;
 };
 

@@ -50,13 +50,6 @@ TEST(SourceTexts, ALineIsThatOfTheFirstLiteral) {
     EXPECT_EQ(TextsOfSource(QStringLiteral("\n\nf(\"a\"\n\"b\");")).front().line, 3);
 }
 
-TEST(SourceTexts, TheTextsOfOneCallShareItsStatement) {
-    const auto texts = TextsOfSource(QStringLiteral("f(\"a\", \"b\"); g(\"c\");"));
-    ASSERT_EQ(texts.size(), 3U);
-    EXPECT_EQ(texts[0].statement, texts[1].statement);
-    EXPECT_NE(texts[1].statement, texts[2].statement);
-}
-
 TEST(SourceTexts, SourcesAreFound) {
     EXPECT_GT(SourceFiles(QStringLiteral("src")).size(), 300);
     EXPECT_GT(SourceFiles(QStringLiteral("tests")).size(), 100);
