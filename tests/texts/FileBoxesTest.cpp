@@ -1,12 +1,8 @@
 #include "app/WholeProgram.h"
 #include "base/RunTimeError.h"
-#include "programset/ScriptedFileOperations.h"
 #include "session/Globals.h"
 #include "shell/frmMain.h"
-#include "shell/frmNewFile.h"
 #include <QAction>
-#include <QDir>
-#include <QLineEdit>
 
 // Boxes of the whole program that no other test shows with all of their text.
 
@@ -98,29 +94,4 @@ TEST_F(FileBoxes, OfATrendThatCannotBePrinted) {
         ClickButton(view, "cmdOk");
     });
     Trigger("mnuTrendingPopupPrint");
-}
-
-// The first file of the old set that cannot be removed stops the rest; the new set stands already.
-TEST_F(FileBoxes, OfAReplacedSetWhoseOldFilesStay) {
-    constexpr int stepsBefore = 6; // five files of PUMP step aside, the new one is written
-    ScriptedFileOperations operations;
-    operations.FailFrom(stepsBefore + 1);
-    const FileSystem files;
-    frmNewFile view({Link(), dialogs_, files, operations, drives_, Window().Browser()}, tools_,
-                    *folder_);
-    view.SetNewFileMode(NewFileMode::Upload);
-    WhenUp("frmNewFile", [this](QWidget& shown) {
-        shown.findChild<QLineEdit*>(QStringLiteral("txtNew"))->setText(QStringLiteral("PUMP"));
-        dialogs_.ExpectBoxTitled(QStringLiteral("Create Halden File"), MsgAnswer::Yes);
-        dialogs_.ExpectBoxTitled(QStringLiteral("New File"), MsgAnswer::Ok);
-        ClickButton(shown, "cmdOk");
-        ClickButton(shown, "cmdCancel");
-    });
-    view.exec();
-    const QString aside =
-        QDir(SetPath(QString())).entryList({QStringLiteral("replaced-*")}, QDir::Dirs).value(0);
-    EXPECT_EQ(dialogs_.Boxes().back().text,
-              QStringLiteral("Error Number = 57\r\n\r\nDevice I/O error: %1/PUMP.x07\r\n\r\n"
-                             "Files of the old program 'PUMP' are in %1")
-                  .arg(SetPath(aside)));
 }
