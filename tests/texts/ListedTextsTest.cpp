@@ -24,8 +24,8 @@ void AddPieces(const QString& path, Pieces& pieces) {
 // What texts of every folder are made of: the common report and the names of boards.
 Pieces CommonPieces() {
     Pieces pieces;
-    AddPieces(QStringLiteral(SOURCE_ROOT "/src/base/RunTimeError.cpp"), pieces);
-    AddPieces(QStringLiteral(SOURCE_ROOT "/src/link/TargetBoards.cpp"), pieces);
+    AddPieces(QStringLiteral("src/base/RunTimeError.cpp"), pieces);
+    AddPieces(QStringLiteral("src/link/TargetBoards.cpp"), pieces);
     pieces.removeIf([](const QString& piece) { return piece.size() < 3; }); // codes of boards
     return pieces;
 }
@@ -35,7 +35,7 @@ QMap<QString, Pieces> PiecesByFolder() {
     const Pieces common = CommonPieces();
     QMap<QString, Pieces> folders;
     for (const QString& path : SourceFiles(QStringLiteral("src")))
-        AddPieces(path, folders[path.section(QStringLiteral("/src/"), 1).section(u'/', 0, 0)]);
+        AddPieces(path, folders[path.section(u'/', 1, 1)]);
     for (Pieces& pieces : folders)
         pieces.unite(common);
     return folders;
@@ -87,4 +87,18 @@ TEST(ListedTexts, OfTheProgramWithoutAWindowStandInItsSources) {
 
 TEST(ListedTexts, OfBoxesStandInTheSources) {
     EXPECT_EQ(Missing(QStringLiteral("messages")), "");
+}
+
+TEST(ListedTexts, HaveTheKindsThatAreTold) {
+    static const QSet<QString> kinds{
+        QStringLiteral("title"),  QStringLiteral("caption"),     QStringLiteral("key"),
+        QStringLiteral("head"),   QStringLiteral("tooltip"),     QStringLiteral("entry"),
+        QStringLiteral("hint"),   QStringLiteral("spoken"),      QStringLiteral("status"),
+        QStringLiteral("dialog"), QStringLiteral("progress"),    QStringLiteral("report"),
+        QStringLiteral("name"),   QStringLiteral("description"), QStringLiteral("words"),
+        QStringLiteral("message")};
+    for (const QString& list : TextListNames())
+        for (const ListedText& row : ReadTextList(list))
+            EXPECT_TRUE(kinds.contains(row.kind))
+                << list.toStdString() << ": " << Printed(row.text);
 }

@@ -21,7 +21,7 @@ class TestTexts {
 public:
     TestTexts() {
         for (const QString& path : SourceFiles(QStringLiteral("tests"))) {
-            const QString subject = path.section(QStringLiteral("/tests/"), 1).section(u'/', 0, 0);
+            const QString subject = path.section(u'/', 1, 1);
             for (const SourceText& expression : TextsOfSource(ReadSource(path))) {
                 Said& said = said_[WithoutEnd(expression.text)];
                 said.subjects.insert(subject);

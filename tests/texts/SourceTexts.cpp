@@ -2,6 +2,7 @@
 
 #include "TextList.h"
 #include <gtest/gtest.h>
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
@@ -138,14 +139,15 @@ QStringList SourceFiles(const QString& folder) {
     QDirIterator each(QStringLiteral(SOURCE_ROOT "/") + folder,
                       {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
                       QDirIterator::Subdirectories);
+    const QDir root(QStringLiteral(SOURCE_ROOT));
     while (each.hasNext())
-        files.append(each.next());
+        files.append(root.relativeFilePath(each.next()));
     files.sort();
     return files;
 }
 
 QString ReadSource(const QString& path) {
-    QFile file(path);
+    QFile file(QStringLiteral(SOURCE_ROOT "/") + path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     return QString::fromUtf8(file.readAll());
 }

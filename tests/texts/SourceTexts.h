@@ -16,7 +16,8 @@ struct SourceText {
 /// escapes, raw strings and parted digits, not the preprocessor.
 std::vector<SourceText> TextsOfSource(const QString& source);
 
-/// The source files of this house below a folder of its root, "src" or "tests": full paths, sorted.
+/// The source files of this house below a folder of its root, "src" or "tests": paths from the
+/// root on, sorted.
 QStringList SourceFiles(const QString& folder);
 /// Content of one of them; fails the test if it cannot be read.
 QString ReadSource(const QString& path);

@@ -61,8 +61,8 @@ std::string UnlistedTexts(const QString& folder) {
                     continue;
                 known.insert(literal);
                 if (!noTexts.match(literal).hasMatch() && !IsPartOfListed(literal, listed))
-                    unlisted += path.section(u'/', -2).toStdString() + ':' +
-                                std::to_string(expression.line) + '\t' + Printed(literal) + '\n';
+                    unlisted += path.toStdString() + ':' + std::to_string(expression.line) + '\t' +
+                                Printed(literal) + '\n';
             }
     return unlisted;
 }

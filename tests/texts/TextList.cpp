@@ -60,13 +60,11 @@ ListedText ReadRow(const QString& list, const QString& line) {
     ListedText row;
     row.place = columns[0];
     if (message) {
-        row.own = row.place.endsWith(own);
         row.kind = QStringLiteral("message");
         row.title = ScreenText(columns[1]);
         row.note = columns[3];
     } else {
-        row.own = columns[1].endsWith(own);
-        row.kind = columns[1].chopped(row.own ? own.size() : 0);
+        row.kind = columns[1].chopped(columns[1].endsWith(own) ? own.size() : 0);
     }
     row.text = ScreenText(columns[2]);
     return row;

@@ -5,12 +5,11 @@
 
 /// One text of a list, as it stands on the screen.
 struct ListedText {
-    QString place;    ///< the control, or what of the program shows it
-    QString kind;     ///< "caption", "message", ...; see lists/README.md
-    QString title;    ///< of a message: the title of its box
-    QString text;     ///< variable places are a VariablePlace each
-    bool own = false; ///< chosen in this house, not agreed with anyone
-    QString note;     ///< why a message has no test that shows it; empty where it has one
+    QString place; ///< the control, or what of the program shows it
+    QString kind;  ///< "caption", "message", ...; see lists/README.md
+    QString title; ///< of a message: the title of its box
+    QString text;  ///< variable places are a VariablePlace each
+    QString note;  ///< why a message has no test that shows it; empty where it has one
 };
 
 /// Stands in a text where a number, a name or another text is put in.
