@@ -57,7 +57,7 @@ void frmDataXfr::BuildForm() {
 // Neither option takes the focus from an entry by a click: who gives up the range need not first
 // put the entries right.
 void frmDataXfr::AddOptions(QVBoxLayout& form) {
-    const std::array<QString, 2> captions{tr("&Standard"), tr("&Range")};
+    const std::array<QString, 2> captions{tr("Standard"), tr("Range")};
     for (int index = 0; index < 2; ++index) {
         auto* option = new QRadioButton(captions.at(index), this);
         option->setObjectName(Indexed("optRange", index));
