@@ -14,5 +14,7 @@ QChar CharacterOfCode(std::uint8_t code);
 std::uint8_t CodeOfCharacter(QChar character);
 /// Whether the code page holds every character of `text`.
 bool IsWindows1252(const QString& text);
+/// A character for each byte.
 QString FromWindows1252(const QByteArray& bytes);
+/// A byte for each character; '?' for those that the code page does not hold.
 QByteArray ToWindows1252(const QString& text);

@@ -10,6 +10,7 @@ class FileSystem {
 public:
     /// True for an existing plain file.
     bool FileExists(const QString& path) const;
+    /// True for an existing folder.
     bool FolderExists(const QString& path) const;
     /// Absolute form of a path, "." and ".." resolved; a relative path is taken from the current
     /// directory. An empty path gives the current directory.

@@ -4,7 +4,8 @@
 
 /// The permissive number reader: skips blanks and tabs, takes a sign, digits, one decimal point
 /// and an exponent as far as they form a number, and stops at the first character that cannot
-/// belong to it. Text that holds no number is 0; nothing is ever raised.
+/// belong to it. Text that holds no number is 0, a number beyond the type the largest one; nothing
+/// is ever raised.
 double NumberValue(QStringView text);
 
 /// NumberValue without its fraction, cut toward zero and held within the 64-bit range.

@@ -2,12 +2,14 @@
 
 #include <QtGlobal>
 
-/// A run of byte addresses, both ends included.
+/// A run of byte addresses, both ends included; empty if the last is below the first.
 struct AddressRange {
     qint16 first;
     qint16 last;
 
+    /// Number of its bytes; 0 or less of an empty run.
     qint32 Count() const { return last - first + 1; }
+    /// Whether the byte lies in the run; any number may be asked for.
     bool Contains(qint32 address) const { return address >= first && address <= last; }
 };
 
@@ -21,5 +23,6 @@ struct DataImage {
     bool pairsByAddress;
 };
 
-/// The image of a board index: 50 and 68 have large ones of their own, all others the same.
+/// The image of a board index: 50 (K2012) and 68 (R6500) have large ones of their own, all others
+/// the same one of bytes 70 to 219. The figures are those of the boards' memory maps.
 const DataImage& DataImageOf(qint16 boardIndex);

@@ -17,6 +17,8 @@ struct DatafileStart;
 /// up to that address, an upload that stops leaves a line that ends there.
 class DataTransfer {
 public:
+    /// `link` moves the bytes, `dialogs` shows what goes wrong, `files` finds the file whatever its
+    /// letter case. All must outlive the object.
     DataTransfer(RSComm& link, Dialogs& dialogs, const FileSystem& files);
 
     /// Start address of the next datafile download, upper-case as "W100"; counts for one job.

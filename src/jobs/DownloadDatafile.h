@@ -13,6 +13,8 @@ class RSComm;
 /// start address that the user types.
 class DownloadDatafile {
 public:
+    /// `mode` takes the program online, `transfer` is the work of job 4 that `jobs` runs. All must
+    /// outlive the object.
     DownloadDatafile(RSComm& link, CommMode& mode, Dialogs& dialogs, const FileSystem& files,
                      DataTransfer& transfer, JobRunner& jobs);
 

@@ -12,13 +12,14 @@ constexpr int To = 1;
 
 /// Why an entry is not taken.
 struct RangeRefusal {
-    QString message;
+    QString message;               ///< text of the box, whose title is "Entry Error"
     std::optional<int> resetEntry; ///< the entry that goes back to its end of the range
-    qint16 resetValue = 0;         ///< what it goes back to
+    qint16 resetValue = 0;         ///< byte address that it goes back to
 };
 
-/// Looks at the entries when the one of this index is left: it must be a whole number, both must
-/// lie within `limits`, and "to" must not be below "from", in this order. Nothing if all is well.
+/// Looks at the entries when the one of this index (RangeEntry) is left: it must be a whole number,
+/// both must lie within `limits` (byte addresses), and "to" must not be below "from", in this
+/// order. Nothing if all is well. Any text may be given; raises nothing.
 std::optional<RangeRefusal> CheckRange(int leftEntry, const QString& from, const QString& to,
                                        const AddressRange& limits);
 

@@ -23,12 +23,12 @@ enum class NamesShown { None, NicNames, Descriptions };
 
 /// How the busy view looks when a job starts.
 struct WaitJobFace {
-    QString message;
-    bool cancelEnabled = true;
-    bool barShown = true;
-    bool secondLineShown = false;
-    bool messageLowered = false; ///< the message stands at half the height of its frame
-    bool centred = true;
+    QString message;              ///< first text of lblWaitDisplay
+    bool cancelEnabled = true;    ///< the job looks for a Cancel
+    bool barShown = true;         ///< the job tells how far it is
+    bool secondLineShown = false; ///< lblSetpointRecall: setpoints within a channel
+    bool messageLowered = false;  ///< the message stands at half the height of its frame
+    bool centred = true;          ///< the view is moved to the middle of the main window
 };
 
 /// The face of a job. The message of job 4 depends on the transfer mode (XferMode), that of job 2

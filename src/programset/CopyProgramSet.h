@@ -35,9 +35,10 @@ public:
     bool Begin(const Request& request);
     /// Whether a file is left to copy; false too once the copy was aborted or the disk is full.
     bool MoreFiles() const;
-    /// "Copying:  " and the name of the next file.
+    /// "Copying:  " and the name of the next file; only while MoreFiles is true.
     QString StatusText() const;
-    /// Copies the next file when its disk has room for it, and asks for another disk if not.
+    /// Copies the next file when its disk has room for its bytes, and asks for another disk if not;
+    /// only while MoreFiles is true.
     /// Raises as FileOperations::Copy, but a disk that fills up during the copy counts as full.
     void CopyNextFile();
     /// Path of the .hdn file of the copy, in the folder and under the base name of the last file

@@ -14,6 +14,7 @@ public:
 
     /// Numbers run from 0 to `highest`.
     NameTable(int highest, Bits bits);
+    /// Empties all texts.
     void Clear();
     /// `bitIndex` is 0 for the whole variable, bit + 1 for a bit; a table without bits does not
     /// look at it. Raises SubscriptOutOfRange (9) outside the table.

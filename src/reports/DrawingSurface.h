@@ -56,6 +56,8 @@ public:
     /// Twips at first. A mode other than the two of ScaleMode counts as twips.
     void SetScaleMode(int mode);
 
+    /// Font, pen and position hold for what is drawn from then on, also on the next sheet. Sizes of
+    /// fonts are in points, colours numbers of PaletteColour, widths and styles as in SurfacePen.
     void SetFont(const SurfaceFont& font) { font_ = font; }
     const SurfaceFont& Font() const { return font_; }
     void SetFontName(const QString& name) { font_.name = name; }
@@ -88,10 +90,12 @@ public:
     void PrintWithoutLineEnd(const QString& text);
 
 protected:
+    /// What a device has to do. Each may raise what the device raises.
     virtual double WidthInTwips() const = 0;
     virtual double HeightInTwips() const = 0;
     virtual double TextWidthInTwips(const QString& text) const = 0;
     virtual double TextHeightInTwips(const QString& text) const = 0;
+    /// Takes away what was drawn since AutoRedraw went off, with `groundToo` all there is.
     virtual void ClearSheet(bool groundToo) = 0;
     virtual void DrawLine(double x1, double y1, double x2, double y2) = 0;
     virtual void DrawTextAt(double x, double y, const QString& text) = 0;

@@ -19,6 +19,8 @@ public:
     /// Where the documents opened from now on go.
     virtual void UsePrinter(const PrinterChoice& choice) = 0;
     /// A new document. It is put out by its EndDoc; one that dies before that prints nothing more.
+    /// Raises PathFileAccess (75) where a PDF file cannot be begun; a printer that is not there is
+    /// told by the first thing drawn.
     virtual std::unique_ptr<PagedSurface> OpenDocument(PaperOrientation orientation) = 0;
 };
 

@@ -27,6 +27,7 @@ public:
     /// Number of rows, the head rows included: two of a status table, one of a trend.
     virtual int Rows() const = 0;
     virtual int Columns() const = 0;
+    /// Text of a cell, both counted from 0; empty where there is none.
     virtual QString Text(int row, int column) const = 0;
 };
 

@@ -4,7 +4,7 @@
 
 /// Rules for typing into the table: which key does what to a cell's text.
 
-/// Columns of the table.
+/// Columns of the table, from 0.
 namespace TableColumn {
 constexpr int Name = 0;
 constexpr int Address = 1;
@@ -17,7 +17,8 @@ constexpr int count = 6;
 
 /// First row below the two head rows.
 constexpr int firstDataRow = 2;
-/// Most rows that a user can make by hand.
+/// Most rows that a user can make by hand, heads and append row included: the highest 16-bit row
+/// number, with which the suite counts the rows of a table.
 constexpr int tableRowLimit = 32767;
 
 /// The text of a cell after a key; the same text when the key is refused. Backspace (8) drops the

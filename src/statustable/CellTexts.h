@@ -14,11 +14,11 @@ struct CellTexts {
     bool operator==(const CellTexts&) const = default;
 };
 
-/// The variable that is read from the board for an address text: a hexadecimal address as its
-/// byte in decimal, a point as the byte behind it, anything else as it stands.
+/// The variable that is read from a board (its index) for an address text: a hexadecimal address as
+/// its byte in decimal, a point as the byte behind it, anything else as it stands.
 QString VariableToRead(const QString& address, qint16 board);
 
-/// Texts for a value that the link read, in decimal.
+/// Texts for a value that the link read, in decimal; of a text that is no number those of 0.
 CellTexts OnlineCellTexts(const QString& address, const QString& value);
 
 /// Texts for an address out of the data file. Points have no place there and show "N/A".

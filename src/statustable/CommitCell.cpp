@@ -42,6 +42,12 @@ bool IsHexadecimal(const QString& text) {
     return true;
 }
 
+// Whether an address text stands for one variable and no other. Letters that are no digits of a
+// hexadecimal address would be read as nothing: "W20H" as 20H.
+bool NamesAVariable(const QString& text, const TableAddress& address) {
+    return address.isHexadecimal ? IsHexadecimal(text.chopped(1)) : address.IsNumber();
+}
+
 CommitOutcome DecideValue(const CommitRequest& request, const QString& cell,
                           const TableAddress& address) {
     const bool decimal = request.column == TableColumn::Decimal;
@@ -63,8 +69,9 @@ CommitOutcome DecideValue(const CommitRequest& request, const QString& cell,
 
 CommitOutcome DecideCommit(const CommitRequest& request) {
     const QString cell = request.cell.toUpper();
-    const TableAddress address = SplitAddress(request.address.toUpper());
-    if (!cell.isEmpty() && !address.IsNumber())
+    const QString addressText = request.address.toUpper();
+    const TableAddress address = SplitAddress(addressText);
+    if (!cell.isEmpty() && !NamesAVariable(addressText, address))
         return Outcome(CommitAction::EmptyCell);
     switch (request.column) {
     case TableColumn::Address:

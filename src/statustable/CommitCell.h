@@ -30,5 +30,7 @@ struct CommitOutcome {
 };
 
 /// Decides about an address typed into column 1 or a value typed into column 2 (decimal) or 3
-/// (hexadecimal). Inputs (X and I) are never written; a Y point is written as the byte behind it.
+/// (hexadecimal). An address in which a character counts for nothing ("B1E2", "W20H") is refused:
+/// what is left of it would be another variable. Inputs (X and I) are never written; a Y point is
+/// written as the byte behind it.
 CommitOutcome DecideCommit(const CommitRequest& request);

@@ -12,6 +12,7 @@ struct NameTables {
     NameTable gNicOutputs{151, NameTable::Bits::Eight}; ///< Y points
     NameTable gNicImage{151, NameTable::Bits::Eight};   ///< I points
 
+    /// Empties all texts of all five.
     void Clear();
 };
 

@@ -2,6 +2,7 @@
 
 #include "base/FileSystem.h"
 #include "base/NumberReader.h"
+#include "base/RunTimeError.h"
 #include "base/TextFile.h"
 #include "jobs/DataImage.h"
 #include "link/MarkHex.h"
@@ -27,4 +28,11 @@ OfflineDataState ReadOfflineData(const QString& path, qint16 board, OfflineData&
     QString text = reader.InputItem();
     data.Fill(MarkHex2HEX(text), DataImageOf(board).file.first);
     return OfflineDataState::Loaded;
+}
+
+QString OfflineDataFailureText(const RunTimeError& error) {
+    const QString text = ErrorReportText(error);
+    return error.Number() == ErrorNumber::FileNotFound
+               ? text + QStringLiteral("\r\nUnable to Open Data File.")
+               : text;
 }

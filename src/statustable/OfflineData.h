@@ -4,6 +4,8 @@
 #include <QString>
 #include <vector>
 
+class RunTimeError;
+
 /// The board bytes of a program set's data file, by board address.
 class OfflineData {
 public:
@@ -27,3 +29,7 @@ enum class OfflineDataState { Missing, Empty, Loaded };
 /// Reads the .ldt file at `path`. A file of board 50 or 68 starts with the byte at address 0, of
 /// any other board with that at address 70. Raises as TextReader.
 OfflineDataState ReadOfflineData(const QString& path, qint16 board, OfflineData& data);
+
+/// What the user is told when the data file fails: the report of the error, and for a file that
+/// went away meanwhile (53) that it cannot be opened.
+QString OfflineDataFailureText(const RunTimeError& error);

@@ -4,6 +4,14 @@
 #include <algorithm>
 
 namespace {
+constexpr qsizetype bitLength = 2; // characters of ".3"
+
+// No exponent either: "B1E2" is rather a hexadecimal address without its "H" than B100.
+bool IsDigits(QStringView text) {
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
 // The last two digits are the low byte, all before them the high byte.
 qint64 HexadecimalNumber(QStringView digits) {
     const QStringView low = digits.right(2);
@@ -12,8 +20,8 @@ qint64 HexadecimalNumber(QStringView digits) {
 } // namespace
 
 qint64 TableAddress::WholeNumber() const {
-    const qsizetype bitLength = isBit ? std::min<qsizetype>(2, number.size()) : 0;
-    return WholeNumberValue(QStringView(number).chopped(bitLength));
+    const qsizetype behindIt = isBit ? std::min(bitLength, number.size()) : 0;
+    return WholeNumberValue(QStringView(number).chopped(behindIt));
 }
 
 int TableAddress::Bit() const {
@@ -21,7 +29,11 @@ int TableAddress::Bit() const {
 }
 
 bool TableAddress::IsNumber() const {
-    return IsNumeric(number) && !number.endsWith(u'.');
+    const QStringView whole = QStringView(number).trimmed();
+    if (!isBit)
+        return IsDigits(whole);
+    return whole.size() > bitLength && whole[whole.size() - bitLength] == u'.' &&
+           IsDigits(whole.chopped(bitLength)) && IsDigits(whole.last(1));
 }
 
 TableAddress SplitAddress(const QString& address) {

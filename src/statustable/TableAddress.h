@@ -12,11 +12,13 @@ struct TableAddress {
 
     /// Prefix and decimal number: the text that the link understands.
     QString Working() const { return prefix + number; }
-    /// The number without its bit, cut to a whole number; 0 if the text holds none.
+    /// The number without its bit, cut to a whole number; 0 if the text holds none. Negative only
+    /// for a text that no key can make.
     qint64 WholeNumber() const;
     /// The bit, 0 to 9; 0 where isBit is false or the last character is no digit.
     int Bit() const;
-    /// Whether the number is one: digits all through and, where a point stands, a bit behind it.
+    /// Whether the number is one: digits all through, without sign or exponent, and, where a point
+    /// stands, one bit digit behind it. Blanks around it do not count.
     bool IsNumber() const;
 };
 

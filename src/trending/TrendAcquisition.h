@@ -48,6 +48,7 @@ public:
     const TrendVariable& Variable() const { return variable_; }
     const TrendSamples& Samples() const { return samples_; }
 
+    /// Whether samples are taken at all, while the link is online and without a failure.
     void SetAcquire(bool on) { acquire_ = on; }
     bool Acquire() const { return acquire_; }
     /// Interval mode applies the interval that is chosen; change of state stops the timer.
@@ -55,12 +56,15 @@ public:
     SampleOption Option() const { return option_; }
     /// An entry of the interval list, 0 to 5. While Change of State is selected it is only kept.
     void SelectInterval(int listEntry);
+    /// The entry chosen last, 0 to 5.
     int IntervalEntry() const { return intervalEntry_; }
     /// The timer runs: its moments sample, and the loop does not.
     bool TimerEnabled() const { return pace_.Running(); }
     /// Milliseconds until the timer should call TimerTick; none while it is disabled.
     std::optional<int> TimerMilliseconds() const;
 
+    /// One look at the link: a read and perhaps a sample. Rests while the timer samples, while
+    /// nothing may be sampled, and without a variable.
     Step TakeStep() override;
     /// The timer's tick: takes a sample if a moment of the interval has come and nobody else uses
     /// the link. Harmless when it comes early.
@@ -68,7 +72,9 @@ public:
 
     /// Empties the grid; the elapsed time begins again with the next sample, the counter stays.
     void Clear();
+    /// Sets the counter to 0 and leaves the grid.
     void ResetCounter();
+    /// Samples taken since the start or the last reset, 0 to highestCount.
     qint32 Counter() const { return counter_; }
     /// The counter as it is shown: "12,345".
     QString CounterText() const;

@@ -12,8 +12,8 @@ public:
 
     enum class Entered { Taken, Refused };
 
-    /// A board as an entry of TableBoardNames. Where the variable exists on it, its address
-    /// follows.
+    /// A board as an entry of TableBoardNames, 0 to 14; another number is "(none)". Where the
+    /// variable exists on it, its address follows.
     void SelectBoard(int listEntry);
     int BoardListEntry() const { return boardListEntry_; }
     /// Board index, 0 for "(none)".
@@ -42,5 +42,6 @@ private:
     QString address_;
 };
 
-/// The text with a bit above 7 made 7: "B100.9" is "B100.7". Without a point nothing is changed.
+/// The text with a bit above 7, the highest of a byte, made 7: "B100.9" is "B100.7". Without a
+/// point nothing is changed.
 QString WithBitWithin7(const QString& text);

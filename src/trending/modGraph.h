@@ -28,7 +28,7 @@ public:
     /// The sample that is drawn nearest to `x` (twips), for a look at its value; none outside the
     /// plot and while no line is drawn.
     std::optional<int> SampleAt(double x) const;
-    /// Where a sample stands, in twips.
+    /// Where a sample of the data drawn last stands, in twips: 0 is the newest, at the left axis.
     int XOf(int sample) const;
     /// Height at which a value stands in the data drawn last, in twips.
     int YOf(qint32 value) const;

@@ -1,4 +1,5 @@
 #include "controls/grid/Grid.h"
+#include "reports/views/PdfPages.h"
 #include "session/Globals.h"
 #include "WholeProgram.h"
 #include <QAction>
@@ -95,6 +96,23 @@ TEST_F(TrendingEntries, TheStatusTableIsPrintedWhileItIsActive) {
     dialogs_.ExpectPrinter({QString(), SetPath(QStringLiteral("table.pdf")), 1});
     Trigger("mnuFilePrintStatusTable");
     EXPECT_TRUE(IsPdf(SetPath(QStringLiteral("table.pdf"))));
+}
+
+TEST_F(TrendingEntries, ThePrintedTableIsHeadedByItsTitleAndHoldsItsRows) {
+    Press("Status");
+    WriteSetFile(QStringLiteral("WATCH.tbl"), " 51 \r\nB100\r\nW200\r\n\r\n");
+    dialogs_.ExpectOpen(SetPath(QStringLiteral("WATCH.tbl")));
+    Trigger("mnuStatusTableItem(6)");
+    dialogs_.ExpectPrinter({QString(), SetPath(QStringLiteral("table.pdf")), 1});
+    Trigger("mnuFilePrintStatusTable");
+    const std::vector<PdfPage> pages = ReadPdf(SetPath(QStringLiteral("table.pdf")));
+    ASSERT_EQ(pages.size(), 1u);
+    QStringList words;
+    for (const PdfWord& word : pages[0])
+        words += word.text;
+    EXPECT_EQ(words.mid(0, 3).join(u' ').toStdString(), "Status Table: WATCH");
+    EXPECT_TRUE(words.contains(QStringLiteral("B100")));
+    EXPECT_TRUE(words.contains(QStringLiteral("W200")));
 }
 
 TEST_F(TrendingEntries, ACancelledPrinterDialogPrintsNoTable) {

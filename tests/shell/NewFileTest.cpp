@@ -1,4 +1,5 @@
 #include "session/Globals.h"
+#include "shell/DirectoryList.h"
 #include "shell/FileList.h"
 #include "shell/frmMain.h"
 #include "shell/frmNewFile.h"
@@ -203,6 +204,36 @@ TEST_F(NewFile, DriveThatIsNotReadyIsRefused) {
         drive->setFocus();
         QTest::keyClick(drive, Qt::Key_Down);
         EXPECT_EQ(drive->currentData().toString().toStdString(), "/");
+        Click(view, "cmdCancel");
+    });
+}
+
+TEST_F(NewFile, FolderThatIsEnteredIsListedAndBecomesTheCurrentOne) {
+    QDir(root_.path()).mkpath("sets/inner");
+    WriteSetFile("inner/BELT.hdn", "2\r\n");
+    New([&](QWidget& view) {
+        auto* folders = PartOf<DirectoryList>(view, "dirNew");
+        folders->SetPath(root_.filePath("sets/inner"));
+        EXPECT_EQ(PartOf<FileList>(view, "filNew")->model()->index(0, 0).data().toString(),
+                  QStringLiteral("BELT.hdn"));
+        EXPECT_EQ(QDir::current(), QDir(root_.filePath("sets/inner")));
+        Type(view, "FAN");
+        Click(view, "cmdOk");
+    });
+    EXPECT_EQ(gHdnFile, SetPath("inner/FAN.HDN"));
+    EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [FAN]");
+}
+
+TEST_F(NewFile, DriveThatIsReadyIsEntered) {
+    const QString stick = root_.filePath("stick");
+    QDir(root_.path()).mkpath("stick");
+    drives_.roots = QStringList{"/", stick};
+    New([&](QWidget& view) {
+        auto* drive = PartOf<QComboBox>(view, "drvNew");
+        drive->setFocus();
+        QTest::keyClick(drive, Qt::Key_Down);
+        EXPECT_EQ(QDir(PartOf<FileList>(view, "filNew")->Path()), QDir(stick));
+        EXPECT_TRUE(dialogs_.Boxes().empty());
         Click(view, "cmdCancel");
     });
 }

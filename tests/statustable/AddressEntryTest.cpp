@@ -28,6 +28,16 @@ TEST(KeyFilter, TakesTheKeysOfTheBoard) {
     EXPECT_EQ(Address("W200", 68), QString("W200"));
 }
 
+TEST(KeyFilter, TakesPointsOnTheBoardsThatHaveThem) {
+    for (qint16 board = 0; board <= 70; ++board) {
+        const bool points = QList<qint16>{49, 50, 58, 59, 60, 61, 65, 66}.contains(board);
+        for (const char* key : {"X", "x", "Y", "y"})
+            EXPECT_EQ(Address(key, board), points ? QString(key) : QString()) << board << key;
+        for (const char* key : {"I", "i"})
+            EXPECT_EQ(Address(key, board), board == 50 ? QString(key) : QString()) << board << key;
+    }
+}
+
 TEST(KeyFilter, RefusesAllOtherKeys) {
     EXPECT_EQ(Address("GJKLMNOPQRSTUVZ!-+,;_", 50), QString());
 }
@@ -122,6 +132,8 @@ TEST(PastedAddress, IsCheckedAsIfTyped) {
 TEST(PastedAddress, ThatWouldLoseACharacterIsRefusedWhole) {
     EXPECT_EQ(PastedAddress("X10", 51), QString()); // "10" is what typing would leave of it
     EXPECT_EQ(PastedAddress("B1000000", 50), QString());
+    EXPECT_EQ(PastedAddress("B1E2", 50), QString());
+    EXPECT_EQ(PastedAddress("W20H", 50), QString());
     EXPECT_EQ(PastedAddress("Motor", 50), QString());
     EXPECT_EQ(PastedAddress("", 50), QString());
 }

@@ -58,6 +58,13 @@ TEST(CommitAddress, InvalidOnesEmptyTheCell) {
     EXPECT_EQ(Address("X10", 68).action, CommitAction::EmptyCell);
 }
 
+TEST(CommitAddress, InWhichACharacterWouldCountForNothingIsRefused) {
+    // Read leniently these are B100, B200H, B32, B256 and F10.
+    for (const char* text : {"B1E2", "2WFH", "W20H", "1X0H", "F1E1", "W1E2", "D1E2"})
+        EXPECT_EQ(Address(text, 50).action, CommitAction::EmptyCell) << text;
+    EXPECT_EQ(Address("1E2H", 50).action, CommitAction::AcceptAddress);
+}
+
 TEST(CommitAddress, AnEmptyCellEmptiesTheRow) {
     EXPECT_EQ(Address("").action, CommitAction::EmptyRow);
 }
@@ -102,6 +109,12 @@ TEST(CommitValue, OfAnEmptyCellIsNothing) {
 
 TEST(CommitValue, BesideNoAddressEmptiesTheCell) {
     EXPECT_EQ(DecideCommit(Value(2, "5", "")).action, CommitAction::EmptyCell);
+}
+
+TEST(CommitValue, BesideAnAddressThatIsNoneIsNotWritten) {
+    for (const char* address : {"B1E2", "W20H", "B100.34", "B100.", "B-5"})
+        EXPECT_EQ(DecideCommit(Value(2, "5", address)).action, CommitAction::EmptyCell) << address;
+    ExpectWritten(Value(2, "5", "b 100"), "B 100", "5"); // of a table made by hand
 }
 
 TEST(CommitValue, ThatIsNoneIsNotReadAs0) {

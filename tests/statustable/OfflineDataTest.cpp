@@ -1,5 +1,6 @@
 #include "statustable/OfflineData.h"
 
+#include "base/RunTimeError.h"
 #include "support/PrintText.h"
 #include "TestFiles.h"
 #include <gtest/gtest.h>
@@ -67,4 +68,11 @@ TEST(OfflineData, MissingAndEmptyFilesAreTold) {
     OfflineData data;
     EXPECT_EQ(ReadOfflineData(files.Path("none.ldt"), 49, data), OfflineDataState::Missing);
     EXPECT_EQ(ReadOfflineData(files.Write("empty.ldt", ""), 49, data), OfflineDataState::Empty);
+}
+
+TEST(OfflineData, AFailureIsReportedAndALostFileSaysThatItCannotBeOpened) {
+    EXPECT_EQ(OfflineDataFailureText(RunTimeError(ErrorNumber::FileNotFound)),
+              QString("Error Number = 53\r\n\r\nFile not found\r\nUnable to Open Data File."));
+    EXPECT_EQ(OfflineDataFailureText(RunTimeError(ErrorNumber::DeviceIOError)),
+              QString("Error Number = 57\r\n\r\nDevice I/O error"));
 }

@@ -21,20 +21,25 @@ public:
     /// `alarms` time the repaints and marks; they must outlive the grid.
     explicit Grid(int fixedRows, QWidget* parent = nullptr, Alarms& alarms = Alarms::System());
 
+    /// Number of rows, the fixed ones included.
     int Rows() const { return model_->Rows(); }
     int Cols() const { return model_->Cols(); }
     int FixedRows() const { return model_->FixedRows(); }
+    /// Adds empty rows at the end or removes rows there; never fewer than the fixed rows. A current
+    /// cell that is gone moves to the last row that is left.
     void SetRows(int rows);
+    /// Sets the number of columns; 0 or more. Texts in columns that stay are kept.
     void SetCols(int cols) { model_->SetCols(cols); }
     /// Alignment of the columns and texts of their heads; see ReadGridFormat.
     void SetFormatString(const QString& format);
     /// Text of a cell; empty outside the grid.
     QString TextMatrix(int row, int col) const { return model_->Text(row, col); }
+    /// Sets the text of a cell; nothing outside the grid.
     void SetTextMatrix(int row, int col, const QString& text) { model_->SetText(row, col, text); }
     /// Empties all cells, the heads too.
     void Clear() { model_->Clear(); }
-    /// Puts rows of the same texts before row `row`; without one, behind the last. Cells are parted
-    /// by tabs. The current cell keeps its row number.
+    /// Puts `count` rows of the same texts before row `row`; without one, behind the last. Cells
+    /// are parted by tabs. The current cell keeps its row number.
     void AddItem(const QString& texts, int row = -1, int count = 1);
     /// Removes rows from `row` on; fixed rows stay. The current cell keeps its row number while
     /// there is such a row.
@@ -54,8 +59,9 @@ public:
     /// The selected cells as text: tabs between columns, CR LF between rows.
     QString Clip() const;
 
-    /// First row below the heads.
+    /// First row below the heads that can be seen.
     int TopRow() const;
+    /// Scrolls so that a row is the first below the heads, or as near to it as the end allows.
     void SetTopRow(int row);
     /// Whether any part of a row can be seen.
     bool RowIsVisible(int row) const;

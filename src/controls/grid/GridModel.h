@@ -14,9 +14,11 @@
 class GridModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
-    /// Shortest time between two repaints for changed texts, in milliseconds.
+    /// Shortest time between two repaints for changed texts, in milliseconds: as often as an eye
+    /// can follow, and rare enough to leave the processor to the serial line.
     static constexpr int repaintInterval = 40;
-    /// How long a changed value stays marked, in milliseconds.
+    /// How long a changed value stays marked, in milliseconds: long enough for a glance, and over
+    /// before values that change every second look marked for good.
     static constexpr int markTime = 600;
     /// True for a cell whose value changed a moment ago.
     static constexpr int ChangedRole = Qt::UserRole;
@@ -29,6 +31,7 @@ public:
     int FixedRows() const { return fixedRows_; }
     /// Adds empty rows or removes rows at the end; never fewer than the fixed rows.
     void SetRows(int rows);
+    /// Sets the number of columns; a negative one is ignored. Texts in columns that stay are kept.
     void SetCols(int cols);
     /// Text of a cell; empty outside the grid.
     QString Text(int row, int col) const;
@@ -41,6 +44,7 @@ public:
     /// Empties all cells.
     void Clear();
 
+    /// Aligns the texts of a column and its head; nothing outside the grid.
     void SetAlignment(int col, Qt::Alignment alignment);
     /// Shows the column in a font of one width, so that digits stand below digits.
     void SetFixedPitch(int col);

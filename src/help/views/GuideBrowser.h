@@ -10,7 +10,8 @@ class GuideBrowser : public QTextBrowser {
 public:
     explicit GuideBrowser(QWidget* parent = nullptr);
 
-    /// Shows a page of the guide; nothing happens if it is shown already.
+    /// Shows a page of the guide by its position from 0; nothing happens if it is shown already or
+    /// is none.
     void ShowPage(int page);
     /// Position of the page that is shown; -1 before the first.
     int Page() const { return page_; }

@@ -57,7 +57,7 @@ void frmDataXfr::BuildForm() {
 // Neither option takes the focus from an entry by a click: who gives up the range need not first
 // put the entries right.
 void frmDataXfr::AddOptions(QVBoxLayout& form) {
-    const std::array<QString, 2> captions{tr("&Standard"), tr("&Range")};
+    const std::array<QString, 2> captions{tr("Standard"), tr("Range")};
     for (int index = 0; index < 2; ++index) {
         auto* option = new QRadioButton(captions.at(index), this);
         option->setObjectName(Indexed("optRange", index));
@@ -141,10 +141,20 @@ bool frmDataXfr::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && TakesKey(*entry, *static_cast<QKeyEvent*>(event)))
         return true;
     if (event->type() == QEvent::FocusIn)
-        SelectAllText(*txtRange_.at(*entry));
+        txtRange_GotFocus(*entry, static_cast<QFocusEvent*>(event)->reason());
     if (event->type() == QEvent::FocusOut && IsWithinProgram(*static_cast<QFocusEvent*>(event)))
         txtRange_LostFocus(*entry);
     return QDialog::eventFilter(watched, event);
+}
+
+// The click that brings the focus still has to place its cursor: the text is selected after that.
+void frmDataXfr::txtRange_GotFocus(int index, Qt::FocusReason reason) {
+    QLineEdit* entry = txtRange_.at(index);
+    if (reason == Qt::MouseFocusReason)
+        QMetaObject::invokeMethod(
+            entry, [entry] { SelectAllText(*entry); }, Qt::QueuedConnection);
+    else
+        SelectAllText(*entry);
 }
 
 // Return moves on like Tab, the up and down keys step like the arrows.

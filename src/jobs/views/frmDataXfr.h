@@ -40,6 +40,7 @@ private:
     std::optional<int> EntryOf(const QObject* object) const;
     bool TakesKey(int entry, const QKeyEvent& event);
     void optRange_Click(int index);
+    void txtRange_GotFocus(int index, Qt::FocusReason reason);
     void txtRange_LostFocus(int index);
     void CheckLeftEntry();
     bool AcceptEntry(int index);

@@ -92,7 +92,7 @@ QWidget* frmSetupComm::SpeedFrame() {
     auto* frame = new QGroupBox(tr("Port Speed"));
     frame->setObjectName(QStringLiteral("fraPortSpeed"));
     auto* row = new QHBoxLayout(frame);
-    const std::array<QString, 2> captions{QStringLiteral("&9600"), QStringLiteral("&19200")};
+    const std::array<QString, 2> captions{QStringLiteral("9600"), QStringLiteral("19200")};
     for (std::size_t index = 0; index < captions.size(); ++index) {
         auto* option = new QRadioButton(captions.at(index));
         option->setObjectName(QStringLiteral("optPortSpeed(%1)").arg(index));

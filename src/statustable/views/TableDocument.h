@@ -28,14 +28,19 @@ public:
 /// The table as a file: new, opened, saved. Whatever fails leaves table and file as they were.
 class TableDocument {
 public:
+    /// All must outlive the object.
     TableDocument(Grid& grid, TableEditor& editor, TableState& state, Dialogs& dialogs,
                   JobRunner& jobs, TableDocumentView& view);
 
     /// Empties the table, after the question whether to save it.
     void NewStatusTable();
+    /// Asks whether to save, asks for a file and shows it. The dialog starts at the last table, in
+    /// `startFolder` before there was one. A file that fails is told; the table stays then.
     void OpenStatusTable(const QString& startFolder);
     /// Writes the table; asks for a file if it has none. True when it was written.
     bool SaveStatusTable();
+    /// Asks for a file and writes the table to it. True when it was written; else the table keeps
+    /// its old file and title.
     bool SaveStatusTableAs();
     /// Asks whether to save if an address differs from the file; MsgAnswer, 0 if none does.
     int SaveChangesResult();

@@ -136,7 +136,10 @@ void TableEditor::WriteValue(const QString& variable, const QString& value) {
     }
 }
 
+// The values of the variable before must not stand beside another one: offline they would stay.
 void TableEditor::AcceptAddress(int row, const QString& text, const QString& working) {
+    if (editing_ && text != savedText_)
+        EmptyCells(row, TableColumn::Decimal);
     grid_.SetTextMatrix(row, TableColumn::Address, text);
     if (gViewNicNames || gViewDescriptions)
         grid_.SetTextMatrix(row, TableColumn::Name, ShownName(state_.names, working));
@@ -144,8 +147,11 @@ void TableEditor::AcceptAddress(int row, const QString& text, const QString& wor
 
 // The mark of the append row stays.
 void TableEditor::EmptyRow(int row) {
-    const int first = IsAppendRow(row) ? TableColumn::Address : TableColumn::Name;
-    for (int col = first; col < TableColumn::count; ++col)
+    EmptyCells(row, IsAppendRow(row) ? TableColumn::Address : TableColumn::Name);
+}
+
+void TableEditor::EmptyCells(int row, int firstCol) {
+    for (int col = firstCol; col < TableColumn::count; ++col)
         grid_.SetTextMatrix(row, col, QString());
 }
 
@@ -160,7 +166,10 @@ void TableEditor::GoOn(int row, bool autoIncrement) {
     const QString above = grid_.TextMatrix(row, TableColumn::Address);
     if (!autoIncrement || above.isEmpty() || grid_.Row() != row + 1)
         return;
-    grid_.SetTextMatrix(row + 1, TableColumn::Address, NextAddress(above));
+    const QString next = NextAddress(above);
+    if (grid_.TextMatrix(row + 1, TableColumn::Address) != next)
+        EmptyRow(row + 1);
+    grid_.SetTextMatrix(row + 1, TableColumn::Address, next);
     state_.editingRow = row + 1;
     uncommitted_ = true;
 }

@@ -15,6 +15,7 @@ struct TableState;
 class TableEditor final : public QObject {
     Q_OBJECT
 public:
+    /// All must outlive the object. It takes the keys of the grid.
     TableEditor(Grid& grid, RSComm& link, Dialogs& dialogs, TableState& state);
 
     /// Whether Return on an address fills the next row with the next address.
@@ -55,6 +56,7 @@ private:
     void WriteValue(const QString& variable, const QString& value);
     void AcceptAddress(int row, const QString& text, const QString& working);
     void EmptyRow(int row);
+    void EmptyCells(int row, int firstCol);
     int RoomForRows(int first, int count);
     bool IsAppendRow(int row) const;
     void ShowBelow(int row);

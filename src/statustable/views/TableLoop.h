@@ -15,8 +15,12 @@ struct TableState;
 /// file. Rows that scroll away end the pass; the next one begins at the new top row.
 class TableLoop final : public ViewLoop {
 public:
+    /// All must outlive the loop.
     TableLoop(Grid& grid, RSComm& link, CommMode& mode, TableState& state);
 
+    /// Reads one row from the board, or shows all visible rows from the data file. Rests while the
+    /// view is not shown, another operation is on the line or there is nothing to do.
+    /// The row of an address that no board has shows nothing.
     Step TakeStep() override;
 
 private:

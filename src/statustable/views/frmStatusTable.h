@@ -48,13 +48,21 @@ public:
     /// Whether the program may end: asks if anything would be lost.
     bool MayClose() { return document_.MayClose(); }
 
-    // Commands, by button and menu.
+    // Commands, by button and menu. What fails is told to the user; nothing is raised.
+
+    /// Empties the table, after the question whether to save it.
     void NewStatusTable();
+    /// Asks whether to save, then for a table file, and shows it.
     void OpenStatusTable();
+    /// Writes the table to its file; asks for one if it has none.
     void SaveStatusTable();
+    /// Asks for a file and writes the table to it.
     void SaveStatusTableAs();
+    /// Asks for a program set and takes board, names and offline data from it.
     void SelectStatusTableProgram();
+    /// Asks for a printer and prints the table's report.
     void PrintStatusTable();
+    /// Puts the selected cells on the clipboard: tabs between columns, CR LF between rows.
     void StatusTableCopyClip();
 
     /// Name of a variable of the kind that column 0 shows, empty where there is none.

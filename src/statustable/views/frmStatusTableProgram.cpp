@@ -190,10 +190,8 @@ void frmStatusTable::ClickViewOffline(bool checked) {
         try {
             LoadOfflineData();
         } catch (const RunTimeError& error) {
-            QString text = ErrorReportText(error);
-            if (error.Number() == ErrorNumber::FileNotFound)
-                text += QStringLiteral("\r\nUnable to Open Data File.");
-            seams_.dialogs.MsgBox(text, MsgStyle::Critical, QStringLiteral("Status Table"));
+            seams_.dialogs.MsgBox(OfflineDataFailureText(error), MsgStyle::Critical,
+                                  QStringLiteral("Status Table"));
             GiveUpOfflineData();
         }
     }

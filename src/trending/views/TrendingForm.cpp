@@ -59,6 +59,7 @@ TrendingForm::TrendingForm(QWidget& view, const modGraph& graph)
       cmdGraphData(Make<QPushButton>(view, "cmdGraphData", QStringLiteral("&Graph Data"))),
       picGraph(new GraphView(graph, &view)), cmdDefault(MakeDefaultButton(view)) {
     fgTrend->setObjectName(QStringLiteral("fgTrend"));
+    updSamples->setObjectName(QStringLiteral("updSamples"));
     picGraph->setObjectName(QStringLiteral("picGraph"));
     cboAddress->setEditable(true);
     cboAddress->setInsertPolicy(QComboBox::NoInsert);

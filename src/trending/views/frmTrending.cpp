@@ -98,6 +98,7 @@ void frmTrending::ConnectGraphEntries() {
 void frmTrending::Activate() {
     seams_.host.ShowTrendCommands(true);
     gPrintContext = PrintContext::Trending;
+    firstPass_ = true;
     seams_.loops.Activate(*this);
     if (!viewRunning_) {
         viewRunning_ = true;

@@ -54,10 +54,16 @@ public:
     /// stops when the view is closed and goes on when it is activated again.
     void Deactivate();
 
-    // Commands, by menu.
+    // Commands, by menu. They raise nothing: a failure is told in a box titled like the dialog of
+    // the command, and the Cancel of that dialog changes nothing.
+
+    /// Asks for a .tdt file and shows it: rows, counter, board and variable.
     void OpenTrendData();
+    /// Asks for a file and writes variable, board and all rows into it.
     void SaveTendData();
+    /// Shows frmTrendingPrint for the samples and returns when it is closed.
     void PrintTrendData();
+    /// Asks for a file and writes the samples as comma separated values.
     void ExportCsv();
     /// Puts the graph on the clipboard as a picture.
     void CopyGraph();
@@ -109,6 +115,6 @@ private:
     bool viewRunning_ = false; ///< from activation until the view is closed
     bool graphRequested_ = false;
     bool graphDrawn_ = false; ///< the axes have been drawn once
-    bool firstPass_ = true;
-    QString lastPath_; ///< of the file opened or saved last
+    bool firstPass_ = false;  ///< the loop has not gone round since the view was activated
+    QString lastPath_;        ///< of the file opened or saved last
 };

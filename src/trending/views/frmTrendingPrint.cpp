@@ -2,6 +2,7 @@
 
 #include "base/Dialogs.h"
 #include "base/RunTimeError.h"
+#include "controls/ViewHelpers.h"
 #include "jobs/JobRunner.h"
 #include "jobs/WaitJobs.h"
 #include "reports/ReportPrinter.h"
@@ -47,6 +48,7 @@ frmTrendingPrint::frmTrendingPrint(Dialogs& dialogs, ReportPrinter& printer, Job
     layout->addWidget(lblPrinter_);
     layout->addLayout(commands);
     ShowPrinterName();
+    CenterForm(*this);
 }
 
 void frmTrendingPrint::InitialilizePrint(const TrendSamples& samples, int samplesToGraph) {

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 #include <QAccessible>
 #include <QElapsedTimer>
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -134,6 +136,15 @@ TEST_F(GridOnScreen, RemovedRowsKeepTheRowNumberWhileThereIsOne) {
     EXPECT_EQ(grid.RowSel(), 57);
 }
 
+TEST_F(GridOnScreen, ACurrentCellThatIsGoneMovesToTheLastRowThatIsLeft) {
+    grid.SetCell(50, 3);
+    grid.SetRows(20);
+    EXPECT_EQ(grid.Row(), 19);
+    EXPECT_EQ(grid.Col(), 3);
+    grid.SetRows(60);
+    EXPECT_EQ(grid.Row(), 19);
+}
+
 TEST_F(GridOnScreen, ClipHasTabsAndLineEnds) {
     grid.SetCell(3, 1);
     EXPECT_EQ(grid.Clip(), QString("3/1"));
@@ -190,8 +201,25 @@ TEST_F(GridOnScreen, WidthsAreSharedButTheUsersOwnStay) {
     EXPECT_EQ(grid.columnWidth(1), own);
 }
 
-TEST_F(GridOnScreen, TabLeavesTheGrid) {
-    EXPECT_FALSE(grid.tabKeyNavigation());
+TEST(GridInAView, TabLeavesTheGrid) {
+    QWidget view;
+    auto* row = new QHBoxLayout(&view);
+    auto* before = new QPushButton;
+    auto* grid = new Grid(2);
+    auto* behind = new QPushButton;
+    for (QWidget* part : QWidgetList{before, grid, behind})
+        row->addWidget(part);
+    grid->SetCols(3);
+    grid->SetRows(9);
+    view.show();
+    view.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Tab);
+    EXPECT_TRUE(behind->hasFocus());
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Backtab);
+    EXPECT_TRUE(before->hasFocus());
 }
 
 TEST_F(GridOnScreen, AScreenReaderFindsHeadsAndCells) {

@@ -37,6 +37,20 @@ TEST(Splash, ShowsTheVersionRecord) {
     EXPECT_FALSE(PartOf<QLabel>(view, "imgLogo")->pixmap().isNull());
 }
 
+TEST(Splash, ThePlatformsAreShownWithOneAmpersand) {
+    frmSplash view;
+    view.grab(); // lays its parts out
+    auto* shown = PartOf<QLabel>(view, "lblPlatform");
+    QLabel expected(shown->parentWidget());
+    expected.setTextFormat(Qt::PlainText);
+    expected.setText(QStringLiteral("Windows2000, XP, Win7, 8 & 10")); // nobody's label: as it is
+    expected.setFont(shown->font());
+    expected.setGeometry(shown->geometry());
+    EXPECT_EQ(shown->grab().toImage(), expected.grab().toImage());
+    expected.setText(QStringLiteral("Windows2000, XP, Win7, 8 10"));
+    EXPECT_NE(shown->grab().toImage(), expected.grab().toImage());
+}
+
 TEST(Splash, AnyKeyClosesIt) {
     for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Q, Qt::Key_F3,
                            Qt::Key_Tab, Qt::Key_Down})

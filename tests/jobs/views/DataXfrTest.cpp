@@ -190,6 +190,13 @@ TEST_F(DataXfr, ReturnMovesOnLikeTab) {
     EXPECT_TRUE(runner.runs.empty());
 }
 
+TEST_F(DataXfr, AClickIntoAnEntrySelectsItsText) {
+    Open();
+    ChooseRange();
+    Click("txtRange(1)");
+    EXPECT_EQ(Child<QLineEdit>("txtRange(1)")->selectedText(), "219");
+}
+
 TEST_F(DataXfr, LettersAreRefusedOnceAndTheFocusComesBack) {
     Open();
     ChooseRange();

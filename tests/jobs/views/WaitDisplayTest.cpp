@@ -78,6 +78,21 @@ TEST_F(WaitDisplayView, PrintingHasItsMessageAtHalfTheFrameAndNoBar) {
     });
 }
 
+TEST_F(WaitDisplayView, StandsInTheMiddleOfTheMainWindow) {
+    QWidget mainWindow;
+    mainWindow.setGeometry(40, 40, 700, 500);
+    mainWindow.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&mainWindow));
+    WaitJobRunner overWindow(jobs, backgroundUpdate, clock, &mainWindow, alarms);
+    jobs.Register(WaitJob::TransferData, [&](JobProgress&) {
+        constexpr int frame = 2; // pixels; not known before the view is up
+        const QPoint middle = mainWindow.frameGeometry().center();
+        EXPECT_NEAR(BusyView()->frameGeometry().center().x(), middle.x(), frame);
+        EXPECT_NEAR(BusyView()->frameGeometry().center().y(), middle.y(), frame);
+    });
+    overWindow.RunWaitJob(WaitJob::TransferData);
+}
+
 TEST_F(WaitDisplayView, MovingAPLSShowsTheSecondLineAndCannotBeCancelled) {
     for (const qint16 code : {6, 7, 8})
         RunWith(code, [code](JobProgress& shown) {

@@ -13,6 +13,7 @@
 
 namespace BoardIndex {
 constexpr int K2041 = 55;
+constexpr int R6041 = 64;
 constexpr int R6500 = 69;
 } // namespace BoardIndex
 

@@ -11,6 +11,19 @@ class UploadStandard : public PLSJobsFixture {
 protected:
     UploadStandard() : PLSJobsFixture(BoardIndex::K2041) {}
 };
+
+class UploadR6041 : public PLSJobsFixture {
+protected:
+    UploadR6041() : PLSJobsFixture(BoardIndex::R6041) {}
+    // Uploads a board that was set up for so many channels.
+    void UploadWith(qint16 channels) {
+        std::array<qint16, 24> table{};
+        table[18] = channels;
+        ASSERT_TRUE(link.PLSConfigDownload(table, 360));
+        jobs.UploadPLSChannels(progress);
+        ASSERT_FALSE(link.CommError());
+    }
+};
 const QByteArray emptyLabel(21, ' ');
 } // namespace
 
@@ -188,4 +201,17 @@ TEST_F(UploadStandard, ReadsTheStandardLayout) {
                                 QStringLiteral("3040300005006010276") + QStringLiteral("03560712") +
                                 QString(16, u'0') + QStringLiteral("%"));
     EXPECT_TRUE(gPLS.CHLText.startsWith(QStringLiteral(":512\r\n:000\r\n:001:00:00:00")));
+}
+
+TEST_F(UploadR6041, ReadsItsOwnNumberOfChannels) {
+    UploadWith(32);
+    EXPECT_EQ(gPLS.Channels, 32);
+    EXPECT_EQ(progress.messages.size(), 32);
+    EXPECT_EQ(gPLS.CHLText.count(QStringLiteral("1:00:00:00")), 32);
+}
+
+TEST_F(UploadR6041, FewerThan16ChannelsBecome16) {
+    UploadWith(5);
+    EXPECT_EQ(gPLS.Channels, 16);
+    EXPECT_EQ(progress.messages.size(), 16);
 }

@@ -136,6 +136,32 @@ TEST_F(StatusTableFiles, CancelOfTheOpenDialogLeavesTheTable) {
     EXPECT_EQ(Caption(), QString("&Status Table: a"));
 }
 
+TEST_F(StatusTableFiles, TheOpenDialogOffersTablesAndStartsAtTheLastOne) {
+    Open(QString());
+    EXPECT_EQ(table.dialogs.FileRequests().back().initDir, QString("/application"));
+    table.host.selected = "/sets/PUMP.hdn";
+    Open(table.files.Write("a.tbl", " 49 \r\nB100\r\n\r\n"));
+    EXPECT_EQ(table.dialogs.FileRequests().back().initDir, QString("/sets"));
+    Open(QString());
+    const FileDialogRequest& request = table.dialogs.FileRequests().back();
+    EXPECT_EQ(request.fileName, table.files.Path("a.tbl"));
+    EXPECT_EQ(request.filter, QString("Status Table Files(*.tbl)|*.tbl|"));
+    EXPECT_EQ(request.flags, 0x81004);
+}
+
+TEST_F(StatusTableFiles, AChosenBoardIsKeptAndGivesTheFocusBackToTheTable) {
+    auto& boards = table.Find<QComboBox>("cboTargetBoard");
+    boards.setFocus();
+    boards.showPopup();
+    boards.view()->setCurrentIndex(boards.model()->index(1, 0));
+    QTest::keyClick(boards.view(), Qt::Key_Return);
+    EXPECT_EQ(boards.currentText(), QString("K2010"));
+    EXPECT_TRUE(grid().hasFocus());
+    table.dialogs.ExpectSave(table.files.Path("a.tbl"));
+    table.view->SaveStatusTable();
+    EXPECT_TRUE(table.files.Read("a.tbl").startsWith(" 49 \r\n"));
+}
+
 TEST_F(StatusTableFiles, CancellingTheQuestionLeavesTheTableUntouched) {
     table.Fill({"B100"});
     ExpectQuestion(2);

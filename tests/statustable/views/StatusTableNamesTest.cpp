@@ -67,6 +67,37 @@ TEST_F(StatusTableNames, Column0ShowsOneKindOrTheOther) {
     EXPECT_FALSE(gViewDescriptions);
 }
 
+TEST_F(StatusTableNames, ATableOpenedWhileNamesShowTakesThemAndANewOneKeepsTheHead) {
+    Select(Set("3\r\n", "005START\r\n&\r\n100COUNT\r\n", ""));
+    nicNames().setChecked(true);
+    table.dialogs.ExpectOpen(table.files.Write("a.tbl", " 51 \r\nB100\r\nF5\r\n\r\n"));
+    table.view->OpenStatusTable();
+    EXPECT_EQ(table.Cell(1, 0), QString("NicNames"));
+    EXPECT_EQ(table.Cell(2, 0), QString("COUNT"));
+    EXPECT_EQ(table.Cell(3, 0), QString("START"));
+    EXPECT_EQ(table.jobs.ran, (std::vector<qint16>{2, 1, 2}));
+    table.view->NewStatusTable();
+    EXPECT_EQ(table.Cell(1, 0), QString("NicNames"));
+    EXPECT_EQ(table.Cell(2, 0), QString());
+}
+
+TEST_F(StatusTableNames, AnotherProgramTakesTheNamesAndTheDataOfTheOneBeforeAway) {
+    Select(Set("3\r\n", "005START\r\n", "", "12"));
+    table.Fill({"F5"});
+    nicNames().setChecked(true);
+    offline().setChecked(true);
+    table.files.Write("pump.hdn", "D\r\n");
+    table.files.Write("pump.nam", "0005STOP\r\n");
+    table.files.Write("pump.doc", "");
+    Select(table.files.Path("pump.hdn"));
+    EXPECT_EQ(Caption(), QString("Program: pump"));
+    EXPECT_FALSE(nicNames().isChecked());
+    EXPECT_FALSE(offline().isChecked());
+    EXPECT_EQ(table.Cell(2, 0), QString());
+    nicNames().setChecked(true);
+    EXPECT_EQ(table.Cell(2, 0), QString("STOP")) << "four digits for a board of large memory";
+}
+
 TEST_F(StatusTableNames, ATypedAddressTakesItsName) {
     Select(Set("3\r\n", "&\r\n255TOP\r\n", ""));
     nicNames().setChecked(true);
@@ -158,6 +189,16 @@ TEST_F(StatusTableNames, AMissingDataFileTurnsTheBoxOff) {
     Select(Set("3\r\n", "", ""));
     table.dialogs.ExpectBox("Unable to Open Data File,\r\nFile Does Not Exist.", 64,
                             "File Open Error", 1);
+    offline().setChecked(true);
+    EXPECT_FALSE(offline().isChecked());
+    EXPECT_FALSE(offline().isEnabled());
+}
+
+TEST_F(StatusTableNames, ADataFileThatFailsIsReportedAndTurnsTheBoxOff) {
+    Select(Set("3\r\n", "", ""));
+    QFile file(table.files.Write("press.ldt", "12"));
+    ASSERT_TRUE(file.resize(65 * 1024 * 1024)); // more than any reader takes
+    table.dialogs.ExpectBox("Error Number = 7\r\n\r\nOut of memory", 16, "Status Table", 1);
     offline().setChecked(true);
     EXPECT_FALSE(offline().isChecked());
     EXPECT_FALSE(offline().isEnabled());

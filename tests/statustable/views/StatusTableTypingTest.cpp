@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -170,6 +171,35 @@ TEST_F(StatusTableTyping, AnAddressThatWasFilledInIsCheckedWhenItsRowIsLeft) {
     EXPECT_EQ(table.Cell(3, 1), QString());
 }
 
+TEST_F(StatusTableTyping, AnotherAddressTakesTheValuesOfTheOneBeforeAway) {
+    table.Fill({"B100"});
+    for (int col = 2; col < 6; ++col)
+        grid().SetTextMatrix(2, col, "5");
+    table.Type("b100");
+    table.Press(Qt::Key_Return);
+    EXPECT_EQ(table.Cell(2, 2), QString("5")) << "the same variable";
+    grid().SetCell(2, 1);
+    table.Press(Qt::Key_Return);
+    EXPECT_EQ(table.Cell(2, 2), QString("5")) << "nothing was typed";
+    grid().SetCell(2, 1);
+    table.Type("B101");
+    table.Press(Qt::Key_Return);
+    for (int col = 2; col < 6; ++col)
+        EXPECT_EQ(table.Cell(2, col), QString()) << col;
+}
+
+TEST_F(StatusTableTyping, AnAddressFilledInTakesTheRestOfItsRowAway) {
+    table.Find<QCheckBox>("chkAutoIncrement").setChecked(true);
+    table.Fill({"", "W200"});
+    grid().SetTextMatrix(3, 0, "COUNT");
+    grid().SetTextMatrix(3, 2, "5");
+    table.Type("B100");
+    table.Press(Qt::Key_Return);
+    EXPECT_EQ(table.Cell(3, 1), QString("B101"));
+    EXPECT_EQ(table.Cell(3, 0), QString());
+    EXPECT_EQ(table.Cell(3, 2), QString());
+}
+
 TEST_F(StatusTableTyping, AnAddressTakenAwayEmptiesItsRow) {
     table.Fill({"B100"});
     grid().SetTextMatrix(2, 2, "5");
@@ -276,12 +306,18 @@ TEST_F(StatusTableTyping, CopyTakesTheSelectedCells) {
     grid().SetTextMatrix(2, 2, "5");
     table.Press(Qt::Key_Down, Qt::ShiftModifier);
     table.Press(Qt::Key_Right, Qt::ShiftModifier);
+    QGuiApplication::clipboard()->setText("before");
     table.view->StatusTableCopyClip();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().remove('\r'), QString("B100\t5\nW200\t"));
+    QGuiApplication::clipboard()->setText("before");
+    table.Press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text().remove('\r'), QString("B100\t5\nW200\t"));
 }
 
 TEST_F(StatusTableTyping, TheRightButtonOpensTheMenu) {
-    Q_EMIT grid().customContextMenuRequested(QPoint(5, 5));
+    const QPoint place(5, 5);
+    QContextMenuEvent click(QContextMenuEvent::Mouse, place, grid().viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(grid().viewport(), &click);
     EXPECT_EQ(table.host.popUps, 1);
 }
 

@@ -1,9 +1,11 @@
 #include "TrendingViewUnderTest.h"
 
+#include "controls/entry/EntryUpDown.h"
 #include "trending/views/GraphView.h"
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QToolButton>
 
 TEST_F(TrendingView, ABitOf9BecomesABitOf7InTheEntry) {
     TypeAddress(QStringLiteral("b100.9"));
@@ -170,4 +172,17 @@ TEST_F(TrendingView, ANumberOfSamplesInRangeIsGraphedAndARefusedOneKeepsTheFocus
     QTest::keyClick(&entry, Qt::Key_Return);
     Until([&] { return dialogs.Boxes().size() == 1 && entry.hasFocus(); });
     EXPECT_EQ(entry.text().toStdString(), "5");
+}
+
+TEST_F(TrendingView, AnArrowStepsTheNumberOfSamplesToGraph) {
+    QLineEdit& entry = Find<QLineEdit>("txtSamples");
+    entry.setFocus();
+    entry.selectAll();
+    QTest::keyClicks(&entry, QStringLiteral("5"));
+    QTest::keyClick(&entry, Qt::Key_Return);
+    auto& arrows = Find<EntryUpDown>("updSamples");
+    QTest::mouseClick(arrows.findChild<QToolButton*>(QStringLiteral("up")), Qt::LeftButton);
+    EXPECT_EQ(entry.text().toStdString(), "6");
+    QTest::mouseClick(&Find<QPushButton>("cmdGraphData"), Qt::LeftButton);
+    EXPECT_EQ(Find<GraphView>("picGraph").Surface().Top().lines.size(), 6u);
 }

@@ -88,6 +88,18 @@ TEST_F(TrendingView, AFileOfMoreThan257SamplesIsShownWhole) {
     EXPECT_EQ(Find<QLabel>("lblSamples").text().toStdString(), "300");
 }
 
+TEST_F(TrendingView, OnlyTheRowsInSightAreNumbered) {
+    QByteArray bytes = "B40\r\n 0 \r\n(sec), Data:\r\n";
+    for (int i = 300; i > 0; --i)
+        bytes += QByteArray::number(i) + ", 5\r\n";
+    Write("a.tdt", bytes);
+    Open("a.tdt");
+    EXPECT_EQ(Samples().TextMatrix(1, 0).toStdString(), "1");
+    EXPECT_EQ(Samples().TextMatrix(300, 0).toStdString(), "");
+    Samples().SetTopRow(295);
+    EXPECT_EQ(Samples().TextMatrix(300, 0).toStdString(), "300");
+}
+
 TEST_F(TrendingView, AFileOf100000LinesIsShownWithNumbersThatHaveRoom) {
     QByteArray bytes = "B40\r\n 0 \r\n(sec), Data:\r\n";
     for (int i = 0; i < 100'000; ++i)

@@ -1,9 +1,25 @@
 #include "TrendingViewUnderTest.h"
 
+#include "jobs/JobProgress.h"
 #include "jobs/WaitJobs.h"
+#include "reports/views/PdfPages.h"
 #include "trending/views/frmTrendingPrint.h"
 #include <QLabel>
 #include <QPushButton>
+
+namespace {
+// A busy view that nobody looks at.
+class NoProgress final : public JobProgress {
+public:
+    void ShowMessage(const QString&) override {}
+    void ShowSecondLine(const QString&) override {}
+    void SetRange(qint32, qint32) override {}
+    void SetValue(qint32) override {}
+    bool Cancelled() const override { return false; }
+    void ClearCancel() override {}
+    void Yield() override {}
+};
+} // namespace
 
 TEST_F(TrendingView, ThePrintDialogRunsTheReportAndPrintsTheGraph) {
     printer.UsePrinter({QString(), Path("graph.pdf"), 1});
@@ -97,4 +113,28 @@ TEST_F(TrendingView, CancelPrintsNothing) {
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_TRUE(jobs.ran.empty());
     EXPECT_FALSE(QFile::exists(Path("graph.pdf")));
+}
+
+TEST_F(TrendingView, ThePrintDialogStandsInTheMiddleOfTheWindow) {
+    const frmTrendingPrint dialog(dialogs, printer, jobs, &view);
+    const QPoint middle = view.frameGeometry().center();
+    EXPECT_NEAR(dialog.frameGeometry().center().x(), middle.x(), 1);
+    EXPECT_NEAR(dialog.frameGeometry().center().y(), middle.y(), 1);
+}
+
+TEST_F(TrendingView, TheReportIsHeadedByTheNameOfTheFile) {
+    Write("speed.tdt", "B40\r\n 0 \r\n(sec), Data:\r\n0.5, 1234\r\n0, 7\r\n");
+    Open("speed.tdt");
+    printer.UsePrinter({QString(), Path("report.pdf"), 1});
+    WaitJobs registered;
+    view.RegisterJobs(registered);
+    NoProgress progress;
+    registered.Run(WaitJob::PrintTrendData, progress);
+    const std::vector<PdfPage> pages = ReadPdf(Path("report.pdf"));
+    ASSERT_EQ(pages.size(), 1u);
+    QStringList words;
+    for (const PdfWord& word : pages[0])
+        words += word.text;
+    EXPECT_EQ(words.mid(0, 3).join(u' ').toStdString(), "Trend Data: speed.tdt");
+    EXPECT_EQ(words.count(QStringLiteral("1234")), 1) << "a value of the file";
 }

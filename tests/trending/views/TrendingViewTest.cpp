@@ -116,3 +116,16 @@ TEST_F(TrendingView, LiveSamplesAreGraphedAsTheyCome) {
     };
     Until([&] { return shows(QStringLiteral("40")); });
 }
+
+TEST_F(TrendingView, ComingBackToTheViewGraphsTheSamplesTakenMeanwhile) {
+    GraphView& graph = Find<GraphView>("picGraph");
+    Until([&] { return graph.Surface().Top().texts.size() == 17; });
+    TypeAddress(QStringLiteral("B40"));
+    GoOnlineAndAcquire();
+    Until([&] { return Samples().TextMatrix(1, 2) == QStringLiteral("40"); });
+    const auto highest = [&] { return graph.Surface().Top().texts.at(5).text.toStdString(); };
+    EXPECT_EQ(highest(), "10") << "not live: nothing but the empty rows is graphed";
+    view.Deactivate();
+    view.Activate();
+    Until([&] { return highest() == "40"; });
+}
