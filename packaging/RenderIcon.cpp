@@ -1,6 +1,6 @@
 // Draws an SVG file as a square PNG picture: RenderIcon SVG PIXELS PNG. Part of the build.
 #include <cstdio>
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -23,9 +23,9 @@ bool Render(const QString& svg, int pixels, const QString& png) {
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "minimal"); // a build has no display
-    const QGuiApplication qt(argc, argv);
-    const QStringList words = QGuiApplication::arguments();
+    const QCoreApplication qt(argc,
+                              argv); // a build has no display; drawings without text need none
+    const QStringList words = QCoreApplication::arguments();
     if (words.size() == 4 && Render(words[1], words[2].toInt(), words[3]))
         return EXIT_SUCCESS;
     std::fputs("usage: RenderIcon SVG PIXELS PNG, of an SVG file that can be drawn\n", stderr);
