@@ -4,6 +4,7 @@
 #include "base/RunTimeError.h"
 #include "base/Siblings.h"
 #include "base/SystemCalls.h"
+#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <utility>

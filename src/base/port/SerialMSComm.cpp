@@ -22,6 +22,11 @@ constexpr double longestWait = 3600; // seconds in one call, so that millisecond
 [[noreturn]] void Raise(const PortTrouble& trouble) {
     throw RunTimeError(trouble.number, trouble.description);
 }
+
+// The handle of the system, which is a number on one and a pointer on the other.
+qintptr HandleOf(const QSerialPort& serial) {
+    return qintptr(serial.handle());
+}
 } // namespace
 
 // A call into serial_. An error that comes meanwhile is looked at when the call is over: a port
@@ -124,9 +129,9 @@ void SerialMSComm::Open() {
 // USB adapters hold bytes back for up to 16 ms to gather more of them: in a lockstep of single
 // bytes there are never more to come.
 void SerialMSComm::HandOverBytesAtOnce() {
-    restoreLatency_ = LinuxPort::LowLatency(serial_.handle()) == std::optional(false);
+    restoreLatency_ = LinuxPort::LowLatency(HandleOf(serial_)) == std::optional(false);
     if (restoreLatency_)
-        LinuxPort::SetLowLatency(serial_.handle(), true);
+        LinuxPort::SetLowLatency(HandleOf(serial_), true);
 }
 
 void SerialMSComm::Close() {
@@ -135,7 +140,7 @@ void SerialMSComm::Close() {
         return;
     const Call call(*this);
     if (std::exchange(restoreLatency_, false))
-        LinuxPort::SetLowLatency(serial_.handle(), false);
+        LinuxPort::SetLowLatency(HandleOf(serial_), false);
     serial_.close();
 }
 
@@ -166,7 +171,7 @@ void SerialMSComm::TakeError(QSerialPort::SerialPortError error) {
 // confirm may be a wake-up for a byte that was taken meanwhile; several in a row without a byte
 // between them are a loss too, whatever the driver says.
 bool SerialMSComm::ErrorIsLoss() {
-    return isOpen_ && (LinuxPort::HungUp(serial_.handle()) || LinuxPort::NodeIsGone(device_) ||
+    return isOpen_ && (LinuxPort::HungUp(HandleOf(serial_)) || LinuxPort::NodeIsGone(device_) ||
                        ++doubtfulErrors_ > mostDoubtfulErrors);
 }
 
@@ -180,7 +185,7 @@ int SerialMSComm::InBufferCount() {
     if (!isOpen_)
         return 0;
     return static_cast<int>(serial_.bytesAvailable()) +
-           LinuxPort::DriverInputCount(serial_.handle());
+           LinuxPort::DriverInputCount(HandleOf(serial_));
 }
 
 void SerialMSComm::SetInBufferCount(int count) {
@@ -207,7 +212,7 @@ QByteArray SerialMSComm::Input() {
     if (!isOpen_)
         return QByteArray();
     const bool wantsMore = inputLength_ == 0 || serial_.bytesAvailable() < inputLength_;
-    if (wantsMore && LinuxPort::DriverInputCount(serial_.handle()) > 0)
+    if (wantsMore && LinuxPort::DriverInputCount(HandleOf(serial_)) > 0)
         TakeFromDriver(0);
     if (!isOpen_)
         return QByteArray();
@@ -232,7 +237,7 @@ bool SerialMSComm::WaitForInput(double deadline) {
             return true;
         }
         // An early end without a byte, and every end of a wait, is worth a look at the device.
-        if (isOpen_ && (LinuxPort::HungUp(serial_.handle()) || LinuxPort::NodeIsGone(device_)))
+        if (isOpen_ && (LinuxPort::HungUp(HandleOf(serial_)) || LinuxPort::NodeIsGone(device_)))
             LosePort();
         if (left <= 0)
             return false;
