@@ -40,6 +40,8 @@ struct R6500Coupling {
 /// that no option has selects 8 channels and stays as read, a scale too high for its channels
 /// stays as read. The record's values are the board's; showing them must never change them.
 R6500Coupling ShowR6500(const PLSRecord& record);
+/// The controls with scale, program and channels of a record, and all else as it was.
+R6500Coupling WithFieldsOf(const PLSRecord& record, R6500Coupling controls);
 /// Entry 0 was accepted with `scale`. An option that no longer fits gives way to the largest that
 /// does, exactly as if the user had clicked it. The upper end of entry 1 stays: only a click of an
 /// option sets it.

@@ -4,7 +4,7 @@
 #include "pls/views/TimingSeams.h"
 
 class TimingScreen;
-struct StandardPositions;
+struct R6500Coupling;
 struct TimingForm;
 struct TimingState;
 
@@ -44,7 +44,7 @@ private:
     void ShowStandardConfig();
     void ShowSwitches();
     void ShowCoupling();
-    void TakeCoupling();
+    void ChangeCoupling(R6500Coupling (*change)(R6500Coupling, int), int value);
     void StandardScaleStored(int scale);
     void SwitchClickedTo(const OptionSwitch& option, bool checked);
     void ShowEntry(int index);
