@@ -100,7 +100,11 @@ TEST_F(TimingEntries, AnotherViewInFrontLeavesItOnline) {
 TEST_F(TimingEntries, TheTickReadsTheOffsetWhileItIsActive) {
     ShowView();
     GoOnline();
+    constexpr int readOffset = 0x28;
+    Tick(); // notices that the program is online
+    port_.ForgetSent();
     Tick();
+    EXPECT_THAT(port_.Sent(), testing::ElementsAre(0xFF, readOffset, 0x55, 0x55));
     EXPECT_TRUE(Link().OnlineMode());
     EXPECT_FALSE(Link().CommError());
 }

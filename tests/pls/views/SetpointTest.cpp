@@ -277,6 +277,19 @@ TEST_F(TimingSetpoints, TheSetpointEntryWalksThroughTheChannel) {
     EXPECT_EQ(Timing(5)->text(), "1");
 }
 
+TEST_F(TimingSetpoints, AnEmptyChannelEmptiesOnAndOffAndAnEntryBeginsWith0) {
+    OpenWith({{20, 10}});
+    gPLS.Chan[2].clear();
+    Type(Timing(1), "2");
+    EXPECT_EQ(Timing(2)->text(), "");
+    EXPECT_EQ(Timing(3)->text(), "");
+    EXPECT_EQ(RangeOf("updTmg", 5).max, 0);
+    QTest::mouseClick(Timing(2), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Timing(2)->text(), "0");
+    EXPECT_EQ(Timing(2)->selectedText(), "0");
+}
+
 TEST_F(TimingSetpoints, TwoEscapesInAnEntryRestoreItAndLeave) {
     OpenWith({{20, 10}});
     QTest::mouseClick(Timing(2), Qt::LeftButton);
