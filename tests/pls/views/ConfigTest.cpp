@@ -197,6 +197,8 @@ TEST_F(TimingConfig, ResetSendsTheConfigurationAndReadsTheBoardAgain) {
     Type(Config(17), "300");
     Type(Config(10), "400");
     Rounds();
+    EXPECT_EQ(board.Pls().ScaleFactor(), 360) << "nothing goes out before the button";
+    EXPECT_EQ(board.Pls().ConfigTable()[18], 1);
     runner.ran.clear();
     Click("cmdResetPLSConfig");
     EXPECT_EQ(board.Pls().ScaleFactor(), 400);

@@ -186,15 +186,17 @@ TEST_F(TimingSetpoints, ARecallOfAnEmptyChannelLeavesOneZeroSetpoint) {
     EXPECT_EQ(RangeOf("updTmg", 5).max, 0);
 }
 
-TEST_F(TimingSetpoints, CancelOnTheOffsetQuestionResetsTheEntryTo0) {
+TEST_F(TimingSetpoints, NoOrCancelOnTheOffsetQuestionResetsTheEntryTo0) {
     OpenOnline();
-    Type(Timing(0), "100");
-    dialogs.ExpectBox(
-        "You are about to Change the Resolver Offset.\r\n\r\nDo you wish to continue?", yesNoCancel,
-        "Set Offset", MsgAnswer::Cancel);
-    Click("cmdSetOffset");
-    EXPECT_EQ(Timing(0)->text(), "0");
-    EXPECT_EQ(Sent(offsetCommand), 0);
+    for (const int answer : {MsgAnswer::No, MsgAnswer::Cancel}) {
+        Type(Timing(0), "100");
+        dialogs.ExpectBox(
+            "You are about to Change the Resolver Offset.\r\n\r\nDo you wish to continue?",
+            yesNoCancel, "Set Offset", answer);
+        Click("cmdSetOffset");
+        EXPECT_EQ(Timing(0)->text(), "0");
+        EXPECT_EQ(Sent(offsetCommand), 0);
+    }
 }
 
 TEST_F(TimingSetpoints, ANewOffsetGoesIntoTheBoard) {
