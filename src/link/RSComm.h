@@ -160,8 +160,8 @@ public:
     /// Takes all setpoints from a channel.
     bool ClearPLSChan(qint16 Chan);
     /// Reads the next edge of a channel; the board goes round and keeps a place for each channel.
-    /// What it read stands in the two members below. False when the board gave no position, which
-    /// is no failure where the state is RecallState::None and CommError does not stand.
+    /// What it read stands in the two members below. True when the board gave an edge or told that
+    /// nothing is programmed.
     bool RecallChannel(qint16 Chan);
     /// Position of the edge last recalled, 0 to 4351; 0 after a failure.
     qint16 ChannelRecallPos() const { return channelRecallPos_; }
