@@ -27,10 +27,12 @@ public:
     /// Milliseconds between ticks: the rate at which a board is polled at the most.
     static constexpr int interval = 500;
 
+    /// All must outlive the object.
     BackgroundUpdate(RSComm& link, CommMode& mode, Dialogs& dialogs, ShellView& views);
 
     /// One tick. Does nothing while a tick or an operation of the link is on the stack, a box
-    /// that one of them shows included.
+    /// that one of them shows included. A .hdn file of the selected set that cannot be read is
+    /// told once; nothing of it is raised.
     void Tick();
 
 private:

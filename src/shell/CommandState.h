@@ -35,8 +35,12 @@ class CommandState {
 public:
     explicit CommandState(ShellSituation situation) : situation_(std::move(situation)) {}
 
+    /// State of a whole menu: the status table's own shows only while that view is active.
     EntryState Menu(const MenuTable& menu) const;
+    /// State of an entry of a menu or popup, separators included.
     EntryState Entry(const MenuEntry& entry) const;
+    /// State of a toolbar button. It is enabled if the entry that a press would run for the
+    /// selected set has a handler.
     EntryState Button(const ToolbarEntry& button) const;
 
 private:

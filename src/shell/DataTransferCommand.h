@@ -23,8 +23,9 @@ public:
                         BackgroundTimer& timer, const ModalViews& views,
                         std::function<void()> plsRoute);
 
-    /// Selects the set unless `BypassOpen`, asks, goes online and shows frmDataXfr. The background
-    /// update stands still meanwhile. Errors are shown, titled "TransferData".
+    /// Selects the set unless `BypassOpen`, asks, goes online and shows frmDataXfr. `Action` is
+    /// `download` or `upload`. The background update stands still meanwhile and runs at the end,
+    /// however it ends. Errors are shown, titled "TransferData".
     void StartDataTransfer(qint16 Action, bool BypassOpen);
 
 private:
@@ -42,7 +43,8 @@ private:
 
 /// Title and text of the question before a data transfer of a set.
 struct TransferQuestion {
-    QString title;
-    QString text;
+    QString title; ///< "Data Upload [PUMP]"
+    QString text;  ///< lines parted by CR LF
 };
+/// The question for an `Action` of DataTransferCommand, the .hdn file and the index of its board.
 TransferQuestion DataTransferQuestion(qint16 Action, const QString& setPath, qint16 board);

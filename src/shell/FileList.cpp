@@ -2,12 +2,25 @@
 
 #include "programset/ProgramSet.h"
 #include "shell/Icons.h"
+#include <algorithm>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
 namespace {
 constexpr int rowIconSize = 16; // pixels at 100 per cent
+
+// Position of a name whatever its letter case, or -1. Where two names differ in letter case only,
+// each is a set of its own, and the exact one is meant.
+qsizetype PositionOf(const QString& name, const QStringList& names) {
+    const qsizetype exact = names.indexOf(name);
+    if (exact >= 0)
+        return exact;
+    const auto found = std::find_if(names.begin(), names.end(), [&name](const QString& listed) {
+        return listed.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == names.end() ? -1 : found - names.begin();
+}
 } // namespace
 
 QVariant FileListModel::data(const QModelIndex& index, int role) const {
@@ -41,16 +54,13 @@ QString FileList::FileName() const {
 }
 
 void FileList::SelectFile(const QString& name) {
-    for (int row = 0; row < names_.rowCount(); ++row) {
-        const QModelIndex index = names_.index(row);
-        if (index.data().toString().compare(name, Qt::CaseInsensitive) != 0)
-            continue;
-        currentMoved_ = false;
-        setCurrentIndex(index);
-        if (!currentMoved_)
-            Q_EMIT Clicked();
+    const qsizetype row = PositionOf(name, names_.stringList());
+    if (row < 0)
         return;
-    }
+    currentMoved_ = false;
+    setCurrentIndex(names_.index(static_cast<int>(row)));
+    if (!currentMoved_)
+        Q_EMIT Clicked();
 }
 
 void FileList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

@@ -25,15 +25,18 @@ public:
     void Refresh();
     /// Name of the selected file, empty when none is.
     QString FileName() const;
-    /// Selects the first file of this name whatever its letter case and emits Clicked, as a click
-    /// does. Without such a file nothing changes.
+    /// Selects the file of this name, or without one the first whose name differs in letter case
+    /// only, and emits Clicked, as a click does. Without either nothing changes.
     void SelectFile(const QString& name);
 
 Q_SIGNALS:
     /// A file was selected, by the user or by the program.
     void Clicked();
+    /// A double-click of the left button on a file.
     void DoubleClicked();
+    /// Return or Enter in the list, whether a file is selected or not.
     void EnterPressed();
+    /// The Delete key in the list, likewise.
     void DeletePressed();
     /// The right mouse button or the menu key, at a point of the screen.
     void PopupRequested(const QPoint& position);

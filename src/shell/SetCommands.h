@@ -16,11 +16,12 @@ public:
     /// Shows frmNewFile; a set that was made becomes the newest of the recent list and is
     /// selected.
     void mnuFileNew_Click();
-    /// Asks and deletes every file of a set; the browser selects the entry that stands in its
-    /// place then. Errors are shown, titled "File Delete".
+    /// Asks and deletes every file of a set, of gHdnFile with `BypassOpen` and else of one that
+    /// the user chooses; the browser selects the entry that stands in its place then. Errors are
+    /// shown, titled "File Delete".
     void DeleteProgram(bool BypassOpen);
-    /// Asks for another name and gives it to every file of a set, which stays selected. Errors
-    /// are shown, titled "File Rename".
+    /// Asks for another name and gives it to every file of a set, chosen as by DeleteProgram,
+    /// which stays selected. Errors are shown, titled "File Rename".
     void RenameProgram(bool BypassOpen);
 
 private:

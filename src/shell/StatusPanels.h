@@ -20,6 +20,7 @@ public:
     void SetLamp(bool lit);
 
 Q_SIGNALS:
+    /// A double-click of any button on the panel.
     void DoubleClicked();
 
 protected:
@@ -41,9 +42,12 @@ public:
     static constexpr int date = 3;
     static constexpr int time = 4;
 
+    /// Builds the panels into `bar`, which owns the object. `clock` must outlive it.
     StatusPanels(QStatusBar& bar, Clock& clock);
 
+    /// Puts a text into panel 1 to 4. One that is too long is shown shortened and kept whole.
     void SetText(int panel, const QString& text);
+    /// The whole text of panel 1 to 4.
     QString Text(int panel) const;
     /// Writes the mode of the link and lights its lamp while it is online.
     void ShowMode(bool online);

@@ -36,20 +36,28 @@ public:
     /// `resultsFound` is called when a search has left results to view.
     ToolCommands(const ToolContext& context, std::function<void()> resultsFound);
 
+    /// Requests to the editor, the compiler, the printing tool and the configuration tool, which
+    /// start nothing; the first and the last select the set in use in the browser again.
     void mnuFileOpen_Click();
     void mnuFileCompile_Click();
     void mnuFilePrintProgram_Click();
     void mnuEditSysConfig_Click();
+    /// Asks for a set and shows its documented variables; a set of a limit switch board is
+    /// refused with a box. Raises as ProgramBoardIndex.
     void mnuEditVarDoc_Click();
+    /// Asks for a set and shows the text that the compiler has left beside it; a box tells if
+    /// there is none.
     void mnuViewCompileErrors_Click();
     /// Toolbar button 3: gHdnFile was taken from the selection already.
     void OpenButton();
     /// Toolbar button 4: prints what gPrintContext names.
     void PrintButton();
 
-    /// Asks for a search and shows what it has found, once its results file is there.
+    /// Asks for a search of gHdnFile and shows what it has found, once the .GBL file is there; a
+    /// box tells if it does not come within searchTime. Events run meanwhile. A set of a board
+    /// without a program ends it at once. Raises as ProgramBoardIndex.
     void GlobalSearch(bool BypassOpen, bool BypassInputBox);
-    /// Frees the port for the monitor and asks for it.
+    /// Frees the port for the monitor by going offline, and asks for it.
     void MonitorProgram(bool BypassOpen);
 
 private:

@@ -30,11 +30,15 @@ public:
     /// Asks for the name of a set, goes online and reads the board's program into it. Errors are
     /// shown, titled "Upload Program".
     void mnuFileUploadProgram_Click();
-    /// Ask for a set, then do as the two below.
+    /// Ask for a set, then do as the two below. A Cancel ends them.
     void mnuFileDownloadToPLS_Click();
     void mnuFileUploadFromPLS_Click();
-    /// Write configuration and channels of gHdnFile to its board, or read them from it.
+    /// Asks, goes online and writes configuration and channels of gHdnFile to its board. A timing
+    /// view that is online shows afterwards what the board holds. Raises as ProgramBoardIndex.
     void mnuFileListPopupDownloadToPLS_Click();
+    /// Asks, goes online and reads configuration and channels of the board into the .PCF and .CHL
+    /// files of gHdnFile; they stay as they are unless all of it was read. The link is out of
+    /// upload mode afterwards. Raises as ProgramBoardIndex and as TextWriter.
     void mnuFileListPopupUploadFromPLS_Click();
 
 private:

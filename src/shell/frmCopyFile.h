@@ -15,6 +15,7 @@ class QPushButton;
 class frmCopyFile final : public QDialog {
     Q_OBJECT
 public:
+    /// Opens on the set that is selected in the browser. All in `context` must outlive the view.
     explicit frmCopyFile(const SetFiles& context, QWidget* parent = nullptr);
 
     /// cmdCancel, Escape and the close button.

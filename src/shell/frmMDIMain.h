@@ -24,6 +24,7 @@ class QMdiArea;
 class frmMDIMain : public QMainWindow, public ModeDisplay, public ShellView {
     Q_OBJECT
 public:
+    /// Builds the window and its commands without showing it. All in `context` must outlive it.
     explicit frmMDIMain(const ShellContext& context);
     ~frmMDIMain() override;
 
@@ -46,11 +47,12 @@ public:
 
     /// A view outside the main window (frmTargetBoard) has come up or gone.
     void SetModalViewVisible(const QString& name, bool visible);
-    /// What a search has left can be viewed.
+    /// Whether a search has left results: shows mnuViewSearchResults, enables the button "View".
     void SetResultsFound(bool found);
-    /// The status table can start a search.
+    /// Whether the status table can start a search: enables mnuStatusTableItem(2).
     void SetTableCanFind(bool can);
 
+    // What the window is made of, for those that join their views to it. All live as long as it.
     CommandSurface& Commands() { return *surface_; }
     MdiChildren& Children() { return *children_; }
     frmMain& Browser() { return *browser_; }

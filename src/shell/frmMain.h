@@ -42,6 +42,7 @@ public:
     /// Fills the client area of the main window.
     void Form_Resize() override;
 
+    /// The file list takes the folder of the folder list, which becomes the current directory.
     void RefreshDirList();
     void dirDirList_Change() override;
     void RefreshFileList(const QString& path) override;
@@ -54,7 +55,7 @@ public:
     bool HasSelection() const;
 
     /// A double-click on the node of this key: gHdnFile is the selected set for as long as the
-    /// action lasts.
+    /// action lasts. Errors are shown, titled "File List", and the set stays in use then.
     void TreeNodeActivated(const QString& key);
     /// Sets what a node's action does. Actions without a handler do nothing.
     void HandleNode(NodeAction action, NodeHandler handler);

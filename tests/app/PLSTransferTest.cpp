@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 
 namespace {
 constexpr int r6500 = 69;
@@ -115,6 +116,22 @@ TEST_F(PLSTransferTest, NoTransfersNothing) {
     Choose("mnuFileUploadFromPLS", "FEED");
     EXPECT_TRUE(port_.Sent().empty());
     EXPECT_EQ(Content(SetPath(QStringLiteral("FEED.CHL"))), channels);
+}
+
+TEST_F(PLSTransferTest, ASetOfAControllerIsNeverSentToALimitSwitchBoard) {
+    DownloadFeed();
+    port_.ForgetSent();
+    dialogs_.ExpectBoxTitled(QStringLiteral("PLS Download [UNIT]"), MsgAnswer::Yes);
+    dialogs_.ExpectBoxTitled(QStringLiteral("PLS Config Download"), MsgAnswer::Ok);
+    Choose("mnuFileDownloadToPLS", "UNIT");
+    dialogs_.ExpectBoxTitled(QStringLiteral("PLS Upload [UNIT]"), MsgAnswer::Yes);
+    Choose("mnuFileUploadFromPLS", "UNIT");
+    for (const int byte : port_.Sent())
+        EXPECT_EQ(byte, 0xFF) << "nothing but the attention of the online command";
+    EXPECT_FALSE(QFile::exists(SetPath(QStringLiteral("UNIT.PCF"))));
+    EXPECT_FALSE(QFile::exists(SetPath(QStringLiteral("UNIT.CHL"))));
+    EXPECT_EQ(board_.Pls().ScaleFactor(), 720);
+    EXPECT_EQ(board_.Pls().Edges(8).size(), 6u);
 }
 
 // What is left of such files in the record must never be offered to the board as an edit.

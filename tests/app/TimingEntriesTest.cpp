@@ -100,7 +100,10 @@ TEST_F(TimingEntries, AnotherViewInFrontLeavesItOnline) {
 TEST_F(TimingEntries, TheTickReadsTheOffsetWhileItIsActive) {
     ShowView();
     GoOnline();
+    Tick(); // this one notices the change of the mode
+    port_.ForgetSent();
     Tick();
+    EXPECT_EQ(port_.Sent(), (std::vector<int>{0xFF, 0x28, 0x55, 0x55}));
     EXPECT_TRUE(Link().OnlineMode());
     EXPECT_FALSE(Link().CommError());
 }

@@ -37,6 +37,15 @@ TEST_F(BoardDataTest, DataGoDownAndComeBack) {
               "1?22" + QByteArray("1?").repeated(dataBytes - 2) + "\r\n");
 }
 
+TEST_F(BoardDataTest, ARangeIsAllThatIsWritten) {
+    folder.Write(QStringLiteral("A.ldt"), "1122\r\n");
+    EXPECT_EQ(Run(QStringLiteral("data-download --yes --json --from 100 --to 101 @A.hdn")),
+              ExitCode::Done);
+    EXPECT_EQ(Memory(99, 4).toHex(), QByteArray("00112200"));
+    EXPECT_EQ(Result()[QStringLiteral("from")].toInt(), 100);
+    EXPECT_EQ(Result()[QStringLiteral("to")].toInt(), 101);
+}
+
 TEST_F(BoardDataTest, ADataFileThatIsMissingOrTooShortSendsNothing) {
     EXPECT_EQ(Run(QStringLiteral("data-download --yes @A.hdn")), ExitCode::Files);
     folder.Write(QStringLiteral("A.ldt"), QByteArray("11").repeated(dataBytes - 1) + "\r\n");
@@ -78,13 +87,18 @@ TEST_F(BoardDataTest, FaultsHaveTheirTexts) {
     QFile::copy(QStringLiteral(QUENTOR_SAMPLES "/../support/FaultErrCodes.txt"),
                 folder.MakeFolder(QStringLiteral("application/support")) +
                     QStringLiteral("/FaultErrCodes.txt"));
-    Poke(8176, "\x05\x06");
+    Poke(8176, "\x05\x06\x07\x08");
     EXPECT_EQ(Run(QStringLiteral("faults --json")), ExitCode::Done);
     const QJsonObject current = Result()[QStringLiteral("currentFault")].toObject();
     EXPECT_EQ(current[QStringLiteral("value")].toInt(), 5);
     EXPECT_EQ(current[QStringLiteral("code")].toString(), QStringLiteral("05"));
     EXPECT_FALSE(current[QStringLiteral("description")].toString().isEmpty());
     EXPECT_EQ(Result()[QStringLiteral("lastFault")].toObject()[QStringLiteral("value")].toInt(), 6);
+    const auto value = [this](const char* name) {
+        return Result()[QLatin1String(name)].toObject()[QStringLiteral("value")].toInt();
+    };
+    EXPECT_EQ(value("currentCommError"), 8);
+    EXPECT_EQ(value("lastCommError"), 7);
     EXPECT_FALSE(Result()[QStringLiteral("correctiveAction")].toString().isEmpty());
 }
 

@@ -64,6 +64,13 @@ TEST_P(DefaultsFault, AtAnyCallOfAFirstStartLeaveNoFileInPartAndTheNextStartFill
     EXPECT_LT(nth, mostCalls);
 }
 
+TEST_P(DefaultsFault, NoFileTakesItsNameBeforeItIsOnTheDisk) {
+    const SpoiltCalls none(0, GetParam());
+    StartUp();
+    EXPECT_EQ(none.NamedUnflushed(), 0);
+    EXPECT_GE(none.Count(), 8);
+}
+
 INSTANTIATE_TEST_SUITE_P(Spoils, DefaultsFault,
                          testing::Values(Spoil::DeviceFails, Spoil::DiskStaysFull,
                                          Spoil::KilledBefore, Spoil::KilledAfter),

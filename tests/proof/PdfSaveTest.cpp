@@ -80,6 +80,13 @@ TEST_P(PdfFault, AtAnyCallLeavesTheOldReportOrAWholeNewOne) {
     EXPECT_LT(nth, mostCalls);
 }
 
+TEST_P(PdfFault, TheReportIsOnTheDiskBeforeItTakesItsName) {
+    const SpoiltCalls none(0, GetParam());
+    Print();
+    EXPECT_EQ(none.NamedUnflushed(), 0);
+    EXPECT_GE(none.Count(), 4);
+}
+
 INSTANTIATE_TEST_SUITE_P(Spoils, PdfFault,
                          testing::Values(Spoil::DeviceFails, Spoil::DiskStaysFull,
                                          Spoil::KilledBefore, Spoil::KilledAfter),

@@ -97,6 +97,14 @@ TEST_P(SaveFault, TheTwoContentsDiffer) {
     EXPECT_NE(old_, new_);
 }
 
+TEST_P(SaveFault, NoFileTakesItsNameBeforeItIsOnTheDisk) {
+    const auto folder = OldFolder();
+    const SpoiltCalls none(0, Spoil::DeviceFails);
+    GetParam().save.run(folder->path(), 1);
+    EXPECT_EQ(none.NamedUnflushed(), 0);
+    EXPECT_GE(none.Count(), 4);
+}
+
 TEST_P(SaveFault, ADeviceThatFailsAtAnyCallLeavesOldOrNew) {
     AtEachCall([this](int nth) { return SaveWithFault(nth, Spoil::DeviceFails); });
 }

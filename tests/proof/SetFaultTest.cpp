@@ -10,6 +10,7 @@
 #include "SpoiltCalls.h"
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <QDir>
 #include <QTemporaryDir>
 
 // Operations on whole program sets take many calls. Each call is spoilt once in each way; what the
@@ -181,6 +182,18 @@ TEST_P(SetFault, ANewSetInPlaceOfAnOldOneLosesNothingOfTheOldUntilItStands) {
         for (const auto& [name, bytes] : outcome.files)
             EXPECT_TRUE(outcome.killed || !name.startsWith(QStringLiteral("OLD.HDN.")));
     });
+}
+
+TEST_P(SetFault, NoFileTakesItsNameBeforeItIsOnTheDisk) {
+    for (const auto work : {Rename, Copy, CreateOverOld}) {
+        const QTemporaryDir folder(FastFolder());
+        MakeFiles(folder.path(), old_);
+        QDir(folder.path()).mkdir(QStringLiteral("to"));
+        const SpoiltCalls none(0, GetParam());
+        work(folder.path());
+        EXPECT_EQ(none.NamedUnflushed(), 0);
+        EXPECT_GE(none.Count(), 4);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Spoils, SetFault,

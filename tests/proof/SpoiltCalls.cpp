@@ -20,6 +20,8 @@ struct Plan {
     int nth = 0;
     Spoil how = Spoil::DeviceFails;
     int calls = 0;
+    bool unflushed = false;
+    int namedUnflushed = 0;
 };
 Plan plan;
 bool unnamedRefused = false;
@@ -62,6 +64,24 @@ Function SystemFunction(const char* name) {
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
 }
 
+template <typename Call>
+auto Writes(Call call) -> decltype(call()) {
+    plan.unflushed = true;
+    return Spoilt(Room::Needed, call);
+}
+
+template <typename Call>
+int Flushes(Call call) {
+    plan.unflushed = false;
+    return Spoilt(Room::Needed, call);
+}
+
+template <typename Call>
+int Names(Room room, Call call) {
+    plan.namedUnflushed += plan.unflushed ? 1 : 0;
+    return Spoilt(room, call);
+}
+
 // A disk that fills up takes what it still has room for.
 bool FillsUpHere() {
     return plan.counting && plan.how == Spoil::DiskStaysFull && plan.calls + 1 == plan.nth;
@@ -77,7 +97,7 @@ ssize_t write(int file, const void* bytes, size_t count) {
         ++plan.calls;
         return real(file, bytes, count / 2);
     }
-    return Spoilt(Room::Needed, [&] { return real(file, bytes, count); });
+    return Writes([&] { return real(file, bytes, count); });
 }
 
 ssize_t sendfile(int to, int from, off_t* offset, size_t count) noexcept {
@@ -86,7 +106,7 @@ ssize_t sendfile(int to, int from, off_t* offset, size_t count) noexcept {
         ++plan.calls;
         return real(to, from, offset, count / 2);
     }
-    return Spoilt(Room::Needed, [&] { return real(to, from, offset, count); });
+    return Writes([&] { return real(to, from, offset, count); });
 }
 
 int open64(const char* path, int flags, ...) {
@@ -109,33 +129,33 @@ int open64(const char* path, int flags, ...) {
 
 int fsync(int file) {
     SYSTEM(fsync);
-    return Spoilt(Room::Needed, [&] { return real(file); });
+    return Flushes([&] { return real(file); });
 }
 
 int fdatasync(int file) {
     SYSTEM(fdatasync);
-    return Spoilt(Room::Needed, [&] { return real(file); });
+    return Flushes([&] { return real(file); });
 }
 
 int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
     SYSTEM(linkat);
-    return Spoilt(Room::Needed, [&] { return real(fromFolder, from, toFolder, to, flags); });
+    return Names(Room::Needed, [&] { return real(fromFolder, from, toFolder, to, flags); });
 }
 
 int link(const char* from, const char* to) noexcept {
     SYSTEM(link);
-    return Spoilt(Room::Needed, [&] { return real(from, to); });
+    return Names(Room::Needed, [&] { return real(from, to); });
 }
 
 int rename(const char* from, const char* to) noexcept {
     SYSTEM(rename);
-    return Spoilt(Room::NotNeeded, [&] { return real(from, to); });
+    return Names(Room::NotNeeded, [&] { return real(from, to); });
 }
 
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
               unsigned flags) noexcept {
     SYSTEM(renameat2);
-    return Spoilt(Room::NotNeeded, [&] { return real(fromFolder, from, toFolder, to, flags); });
+    return Names(Room::NotNeeded, [&] { return real(fromFolder, from, toFolder, to, flags); });
 }
 
 int unlink(const char* path) noexcept {
@@ -173,7 +193,7 @@ std::string NameOf(Spoil how) {
 }
 
 SpoiltCalls::SpoiltCalls(int nth, Spoil how) {
-    plan = {true, nth, how, 0};
+    plan = {true, nth, how, 0, false, 0};
 }
 
 SpoiltCalls::~SpoiltCalls() {
@@ -182,6 +202,10 @@ SpoiltCalls::~SpoiltCalls() {
 
 int SpoiltCalls::Count() const {
     return plan.calls;
+}
+
+int SpoiltCalls::NamedUnflushed() const {
+    return plan.namedUnflushed;
 }
 
 NamedTemporaries::NamedTemporaries(bool named) {

@@ -26,6 +26,9 @@ public:
 
     /// Calls so far, the spoilt one included.
     int Count() const;
+    /// Files that so far got their name while something that was written was not flushed to the
+    /// disk: after a power cut such a file can be there and be empty.
+    int NamedUnflushed() const;
 };
 
 /// For as long as it lives the disk has no unnamed temporary files, like the file systems of memory

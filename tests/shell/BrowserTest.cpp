@@ -66,6 +66,17 @@ TEST_F(Browser, RefreshFileListFindsTheNameWhateverItsCase) {
     EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [PUMP]");
 }
 
+TEST_F(Browser, OfTwoNamesThatDifferInCaseTheOneThatIsMeantIsSelected) {
+    const QString other = WriteSetFile("Pump.hdn", "7\r\n");
+    if (QDir(root_.filePath("sets")).entryList({"pump.hdn"}, QDir::Files).size() < 2)
+        GTEST_SKIP() << "this file system knows no letter case";
+    for (const QString& path : {other, SetPath("PUMP.hdn"), other}) {
+        Window().Browser().RefreshFileList(path);
+        EXPECT_EQ(gHdnFile.toStdString(), path.toStdString());
+    }
+    EXPECT_EQ(Link().TargetboardType(), 55);
+}
+
 TEST_F(Browser, AMissingPathGoesBackToTheApplicationFolderOnly) {
     ClickSet("PUMP.hdn");
     Window().Browser().RefreshFileList("/gone/GONE.hdn");
@@ -210,6 +221,7 @@ TEST_F(Browser, ADoubleClickBeforeTheFirstActivationDoesNothing) {
     Window().Browser().gFormLoaded = true;
     QTest::mouseDClick(Files()->viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
     EXPECT_EQ(gHdnFile, Window().SelectedProgramPath());
+    EXPECT_TRUE(tools_.commands.isEmpty());
 }
 
 TEST_F(Browser, WithNothingSelectedThePathEndsWithASeparator) {

@@ -181,6 +181,7 @@ TEST_F(Commands, ARecentFileThatExistsIsSelectedAndStartsNothing) {
     Entry("mnuFileList(0)")->trigger();
     EXPECT_EQ(gHdnFile, SetPath("PUMP.hdn"));
     EXPECT_EQ(TreeTexts().value(0).toStdString(), "R6500(PLC) [PUMP]");
+    EXPECT_TRUE(tools_.commands.isEmpty());
 }
 
 TEST_F(Commands, AnEmptyRecentEntrySelectsNothingNew) {

@@ -61,6 +61,16 @@ TEST_F(Popup, TakesTheSelectionAsTheSetInUse) {
     EXPECT_EQ(gHdnFile, SetPath("PUMP.hdn"));
 }
 
+TEST_F(Popup, TheMenuKeyOpensItBelowTheMarkedSet) {
+    ClickSet("PUMP.hdn");
+    auto* list = Find<FileList>("filFileList");
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(0, 0), QPoint(0, 0));
+    QCoreApplication::sendEvent(list->viewport(), &event);
+    EXPECT_TRUE(Menu()->isVisible());
+    const QRect row = list->visualRect(list->currentIndex());
+    EXPECT_EQ(Menu()->pos(), list->viewport()->mapToGlobal(row.bottomLeft()));
+}
+
 TEST_F(Popup, TheDeleteKeyRunsDelete) {
     ClickSet("PUMP.hdn");
     int deletes = 0;
@@ -83,4 +93,5 @@ TEST_F(Popup, TheEnterKeyStartsNothing) {
     QTest::keyClick(Find<FileList>("filFileList"), Qt::Key_Return);
     EXPECT_EQ(gHdnFile, SetPath("PUMP.hdn"));
     EXPECT_TRUE(dialogs_.Boxes().empty());
+    EXPECT_TRUE(tools_.commands.isEmpty());
 }

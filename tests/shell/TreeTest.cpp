@@ -1,3 +1,4 @@
+#include "programset/SiblingBoxes.h"
 #include "session/Globals.h"
 #include "shell/frmMain.h"
 #include "shell/ProgramTreeView.h"
@@ -114,6 +115,35 @@ TEST_F(Tree, TheImageBoxIsTitledByItsFile) {
         << dialogs_.Boxes()[0].text.toStdString();
 }
 
+namespace {
+// Counts the presses of the key 0 that come to a view.
+class ZeroKeys : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress)
+            count += static_cast<QKeyEvent*>(event)->text() == QStringLiteral("0");
+        return false;
+    }
+};
+} // namespace
+
+TEST_F(Tree, TheImageBoxComesWithTheKey0) {
+    Select("PUMP.hdn");
+    View()->setFocus();
+    ZeroKeys keys;
+    View()->installEventFilter(&keys);
+    const QString text = FileDataText(ReadFileData(SetPath("PUMP.HEX")));
+    dialogs_.ExpectBox(text, MsgStyle::Plain, "PUMP.HEX", MsgAnswer::Ok, [&keys] {
+        EXPECT_EQ(keys.count, 0);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(keys.count, 1);
+    });
+    DoubleClickNode("HEX (.HEX)");
+}
+
 TEST_F(Tree, EnterOnANodeActsAsADoubleClick) {
     Select("PUMP.hdn");
     View()->setFocus();
@@ -149,6 +179,24 @@ TEST_F(Tree, ANodeWhoseFileVanishedShowsTheErrorBox) {
     dialogs_.ExpectBox("Error Number = 53\r\n\r\nFile not found", MsgStyle::Critical, "File List",
                        MsgAnswer::Ok);
     DoubleClickNode("REVISION (.REV)");
+}
+
+TEST_F(Tree, AfterAnErrorTheSetOfTheNodeStaysInUse) {
+    WriteSetFile("PUMP.REV", "012\r\n");
+    Select("PUMP.hdn");
+    gHdnFile = "/somewhere/ELSE.hdn";
+    dialogs_.ExpectBoxTitled("File List", MsgAnswer::Ok);
+    DoubleClickNode("REVISION (.REV)");
+    EXPECT_EQ(gHdnFile, SetPath("PUMP.hdn"));
+}
+
+TEST_F(Tree, DataAndRootNodesDoNothing) {
+    WriteSetFile("PUMP.LDT", "00\r\n");
+    Select("PUMP.hdn");
+    DoubleClickNode("DATA (.LDT)");
+    DoubleClickNode("R6500(PLC) [PUMP]");
+    EXPECT_TRUE(dialogs_.Boxes().empty());
+    EXPECT_TRUE(tools_.commands.isEmpty());
 }
 
 TEST_F(Tree, TheTreeKeepsItsHeightInASmallWindow) {
