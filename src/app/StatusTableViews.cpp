@@ -1,6 +1,7 @@
 #include "app/StatusTableViews.h"
 
 #include "app/Application.h"
+#include "app/ViewCommands.h"
 #include "base/ApplicationFolder.h"
 #include "controls/grid/Grid.h"
 #include "jobs/WaitJobs.h"
@@ -66,19 +67,14 @@ void StatusTableViews::RegisterCommands() {
         if (view_)
             view_->StatusGrid().setFocus();
     });
-    const auto handle = [&](const char* entry, void (frmStatusTable::*operation)()) {
-        commands.Handle(QLatin1String(entry), [this, operation] {
-            if (view_)
-                (view_->*operation)();
-        });
-    };
-    handle("mnuStatusTableItem(0)", &frmStatusTable::StatusTableCopyClip);
-    handle("mnuStatusTableItem(4)", &frmStatusTable::SelectStatusTableProgram);
-    handle("mnuStatusTableItem(6)", &frmStatusTable::OpenStatusTable);
-    handle("mnuStatusTableItem(7)", &frmStatusTable::NewStatusTable);
-    handle("mnuStatusTableItem(9)", &frmStatusTable::SaveStatusTable);
-    handle("mnuStatusTableItem(10)", &frmStatusTable::SaveStatusTableAs);
-    handle("mnuFilePrintStatusTable", &frmStatusTable::PrintStatusTable);
+    const ViewCommands entries(commands, view_);
+    entries.Handle("mnuStatusTableItem(0)", &frmStatusTable::StatusTableCopyClip);
+    entries.Handle("mnuStatusTableItem(4)", &frmStatusTable::SelectStatusTableProgram);
+    entries.Handle("mnuStatusTableItem(6)", &frmStatusTable::OpenStatusTable);
+    entries.Handle("mnuStatusTableItem(7)", &frmStatusTable::NewStatusTable);
+    entries.Handle("mnuStatusTableItem(9)", &frmStatusTable::SaveStatusTable);
+    entries.Handle("mnuStatusTableItem(10)", &frmStatusTable::SaveStatusTableAs);
+    entries.Handle("mnuFilePrintStatusTable", &frmStatusTable::PrintStatusTable);
 }
 
 void StatusTableViews::RegisterPrinting(const Platform& platform, WaitJobs& jobs) {

@@ -1,6 +1,7 @@
 #include "app/TrendingViews.h"
 
 #include "app/Application.h"
+#include "app/ViewCommands.h"
 #include <QMenu>
 
 namespace {
@@ -39,18 +40,13 @@ void TrendingViews::RegisterCommands() {
     CommandSurface& commands = window_.Commands();
     commands.Handle(QStringLiteral("mnuToolsTrending"),
                     [this] { window_.Children().Show(ViewName()); });
-    const auto handle = [&](const char* entry, void (frmTrending::*operation)()) {
-        commands.Handle(QLatin1String(entry), [this, operation] {
-            if (view_)
-                (view_->*operation)();
-        });
-    };
-    handle("mnuFilePrintTrendData", &frmTrending::PrintTrendData);
-    handle("mnuTrendingPopupOpen", &frmTrending::OpenTrendData);
-    handle("mnuTrendingPopupSave", &frmTrending::SaveTendData);
-    handle("mnuTrendingPopupCopy", &frmTrending::CopyGraph);
-    handle("mnuTrendingPopupPrint", &frmTrending::PrintTrendData);
-    handle("mnuTrendingPopupExport", &frmTrending::ExportCsv);
+    const ViewCommands entries(commands, view_);
+    entries.Handle("mnuFilePrintTrendData", &frmTrending::PrintTrendData);
+    entries.Handle("mnuTrendingPopupOpen", &frmTrending::OpenTrendData);
+    entries.Handle("mnuTrendingPopupSave", &frmTrending::SaveTendData);
+    entries.Handle("mnuTrendingPopupCopy", &frmTrending::CopyGraph);
+    entries.Handle("mnuTrendingPopupPrint", &frmTrending::PrintTrendData);
+    entries.Handle("mnuTrendingPopupExport", &frmTrending::ExportCsv);
 }
 
 void TrendingViews::CopyGraph() {

@@ -14,7 +14,7 @@ QChar CharacterOfCode(std::uint8_t code);
 std::uint8_t CodeOfCharacter(QChar character);
 /// Whether the code page holds every character of `text`.
 bool IsWindows1252(const QString& text);
-/// A character for each byte.
+/// Text of bytes, one character a byte.
 QString FromWindows1252(const QByteArray& bytes);
-/// A byte for each character; '?' for those that the code page does not hold.
+/// Bytes of a text, one byte a character; '?' (63) for what the code page does not hold.
 QByteArray ToWindows1252(const QString& text);

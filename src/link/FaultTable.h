@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Key of a code in the fault tables: upper-case hexadecimal of at least two digits.
+/// Key of a code, 0 to 255, in the fault tables: upper-case hexadecimal of at least two digits.
 QString FaultTableKey(qint16 code);
 
 /// Appends the description that the table file at `path` holds for `key`, the first one where a

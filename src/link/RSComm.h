@@ -21,7 +21,7 @@ class RunTimeError;
 class LongWait;
 struct HexLine;
 
-/// Result of an exchange that got no reply; no byte has this value.
+/// Result of an exchange that got no reply; no byte (0 to 255) has this value.
 constexpr int noReply = 9999;
 
 /// Steps into which the link can be put by a handshake: 0 none, 1 read, 2 write, 3 to 8 commands
@@ -80,8 +80,10 @@ public:
     /// The link is open and trusted.
     bool OnlineMode() const { return onlineMode_; }
     void SetOnlineMode(bool online) { onlineMode_ = online; }
-    /// A communication failure stands: no byte goes out until somebody clears it.
-    bool CommError() const { return commError_; }
+    /// A communication failure stands: no byte goes out until somebody clears it. It stands too for
+    /// as long as one of the link's own Retry and Cancel boxes is up: a handler or a timer that
+    /// runs behind the box must not break into the exchange that waits for the answer.
+    bool CommError() const { return commError_ || asksUser_; }
     void SetCommError(bool error) { commError_ = error; }
     /// A reply time-out is under way: true from the first time-out until a byte arrives.
     bool CommErrorAlert() const { return commErrorAlert_; }
@@ -108,9 +110,12 @@ public:
     /// Full path of the file with port number and baud.
     QString CommSettingsFile() const;
 
-    // Variables: `Add` is a variable already passed through EquateAdd if it was a point.
+    // Variables: `Add` is a variable (VariableAddress.h) already passed through EquateAdd if it was
+    // a point. One of which a byte would lie outside 0 to FFFFH, the addresses that the wire
+    // carries, raises Overflow (6) before anything is sent; while CommError stands it does not.
 
-    /// Value of a variable in decimal; "0" on failure, so look at CommError before trusting it.
+    /// Value of a variable in decimal: bytes 0 to 255, words 0 to 65535, double words 0 to
+    /// 655415535 (any bytes), bits 0 or 1. "0" on failure, so look at CommError before trusting it.
     QString RSRead(const QString& Add);
     /// Writes a decimal value: bytes 0 to 255, words 0 to 65535, double words 0 to 655359999,
     /// bits 0 or 1. A value that does not fit is refused with a box and nothing is sent. A wrong
@@ -127,9 +132,10 @@ public:
     qint16 FaultCode();
     /// "Fault Code (05H): " and the text that the fault table holds for the code, 0 to 255.
     QString FaultDescription(qint16 FltCode);
-    /// Offset of a limit switch board in decimal, "-9999" on failure.
+    /// Offset of a limit switch board in divisions of the cycle, in decimal, 0 to 65535; "-9999" on
+    /// failure.
     QString PLSOffset();
-    /// Firmware revision of the board; -1 while offline or in a communication failure.
+    /// Firmware revision of the board, 0 to 255; -1 while offline or in a communication failure.
     qint16 FirmwareRev();
 
     // Limit switch boards. Channels are plain numbers 0 to 63, positions are divisions of the
@@ -138,30 +144,35 @@ public:
     // time-out struck is never sent on: what the board holds of it is made void, and the caller
     // decides whether to send it again.
 
-    /// Divisions of a cycle, position less offset, turns a minute: in decimal, "-9999" on failure.
+    /// Divisions of a cycle, position less offset, turns a minute: in decimal, 0 to 65535; "-9999"
+    /// on failure.
     QString PLSScaleFactor();
     QString PLSPos();
     QString PLSRpm();
     /// Adds one setpoint to a channel; with `ClearChan` those before go first. A position from the
-    /// scale factor up is refused with a box, a negative one and an unknown channel without.
+    /// scale factor up is refused with a box, a negative one and an unknown channel without. True
+    /// when the board has taken the setpoint.
     bool SingleSetpoint(qint16 Chan, qint16 OnSetpoint, qint16 OffSetpoint, bool ClearChan);
-    /// Programs a channel with pulses all round, from START_Division on. Divisions 1 to 255 whose
-    /// sum divides the scale factor; anything else is refused with a box.
+    /// Programs a channel with pulses all round, from START_Division (0 to the scale factor less 1)
+    /// on. Divisions 1 to 255 whose sum divides the scale factor; anything else is refused with a
+    /// box, a negative start and an unknown channel without. True when the board has taken it.
     bool PulseTrain(qint16 Chan, qint16 ON_Division, qint16 OFF_Division, qint16 START_Division);
     /// Takes all setpoints from a channel.
     bool ClearPLSChan(qint16 Chan);
     /// Reads the next edge of a channel; the board goes round and keeps a place for each channel.
-    /// What it read stands in the two members below.
+    /// What it read stands in the two members below. True when the board gave an edge or told that
+    /// nothing is programmed.
     bool RecallChannel(qint16 Chan);
     /// Position of the edge last recalled, 0 to 4351; 0 after a failure.
     qint16 ChannelRecallPos() const { return channelRecallPos_; }
     /// What was last recalled: a RecallState, or what else the board answered.
     qint16 ChannelRecallState() const { return channelRecallState_; }
     /// Sets the offset so that the present position reads as `Position`, 0 to the scale factor; a
-    /// higher one is refused with a box.
+    /// higher one is refused with a box. True when the board has taken the offset.
     bool SetPLSOffset(qint16 Position);
-    /// Sends the first 24 values of `CfgParam`, 0 to 255 each, as four blocks and then the scale
-    /// factor, with which the board takes them over. Values that are no bytes are refused.
+    /// Sends the first 24 values of `CfgParam`, 0 to 255 each, as four blocks of six and then the
+    /// scale factor, 0 to 32767, with which the board takes them over. Values that are no bytes and
+    /// fewer than 24 are refused without a box. True when the board has taken all five.
     bool PLSConfigDownload(std::span<const qint16> CfgParam, qint16 ScaleFactor);
     /// Reads the configuration. A failure is reported by a box and leaves CommError set; the table
     /// is the one read before then.
@@ -217,6 +228,7 @@ private:
     int ExchangeByte(std::uint8_t byte, Reply reply = Reply::Wait,
                      InputBuffer input = InputBuffer::Keep);
     int ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input);
+    int FailLink();
     int AwaitReply();
     bool InputArrives(double deadline, LongWait& display);
     bool InputArrivesWithin(double seconds);
@@ -308,6 +320,7 @@ private:
     bool onlineMode_ = false;
     bool commError_ = false;
     bool commErrorAlert_ = false;
+    bool asksUser_ = false; // a box is up in the middle of an exchange
     qint16 targetboardType_ = 0;
     bool inProgramMode_ = false;
     bool inUploadMode_ = false;

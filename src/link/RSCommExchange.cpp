@@ -5,6 +5,7 @@
 #include "link/LongWait.h"
 #include "link/RSComm.h"
 #include <algorithm>
+#include <QScopedValueRollback>
 
 namespace {
 constexpr std::uint8_t attention = 0xFF;
@@ -35,23 +36,24 @@ void RSComm::SendByte(std::uint8_t byte) {
 
 // What the port itself raises is a link failure like any other: it stays inside the link.
 int RSComm::ExchangeByte(std::uint8_t byte, Reply reply, InputBuffer input) {
-    if (commError_)
+    if (CommError())
         return noReply;
     try {
         return ExchangeOverPort(byte, reply, input);
     } catch (const RunTimeError&) {
-        linkMode_ = LinkMode::None;
-        commError_ = true;
-        return noReply;
+        return FailLink();
     }
 }
 
+int RSComm::FailLink() {
+    linkMode_ = LinkMode::None;
+    commError_ = true;
+    return noReply;
+}
+
 int RSComm::ExchangeOverPort(std::uint8_t byte, Reply reply, InputBuffer input) {
-    if (!port_ || !port_->PortOpen()) {
-        linkMode_ = LinkMode::None;
-        commError_ = true;
-        return noReply;
-    }
+    if (!port_ || !port_->PortOpen())
+        return FailLink();
     if (inDoubt_)
         LetLineFallQuiet();
     if (input == InputBuffer::Clear)
@@ -94,7 +96,11 @@ int RSComm::AwaitReply() {
     return static_cast<std::uint8_t>(received.front());
 }
 
+// The event loop turns while the box is up: whatever runs behind it finds CommError standing, and
+// what it does to CommError does not count.
 bool RSComm::UserRetries(const QString& text) {
+    const QScopedValueRollback<bool> asks(asksUser_, true);
+    const QScopedValueRollback<bool> kept(commError_);
     const int answer = dialogs_.MsgBox(text, MsgStyle::CriticalRetryCancel,
                                        QStringLiteral("WARNING - Communication Error!"));
     return answer == MsgAnswer::Retry;
@@ -157,6 +163,8 @@ bool RSComm::LetLineFallQuiet() {
 // command: an address byte 0x03 sent now would stop the machine in program mode. The handshake
 // starts over. `dataBytes` is what the board takes after the mode byte without looking at it.
 bool RSComm::SetTargetMode(int mode, std::uint8_t modeByte, int dataBytes) {
+    if (asksUser_)
+        return false;
     linkMode_ = LinkMode::None;
     double deadline = clock_.MonotonicSeconds() + handshakeTime;
     for (;;) {
@@ -192,8 +200,12 @@ int RSComm::SendAttention() {
     const bool doubtful = inDoubt_;
     int reply = ExchangeByte(attention, Reply::Wait, InputBuffer::Clear);
     const bool timedOut = inDoubt_; // each exchange begins without doubt
-    if (reply == acknowledge && (doubtful || timedOut) && LetLineFallQuiet())
-        reply = notAcknowledged;
+    try {
+        if (reply == acknowledge && (doubtful || timedOut) && LetLineFallQuiet())
+            reply = notAcknowledged;
+    } catch (const RunTimeError&) {
+        reply = FailLink();
+    }
     inDoubt_ = inDoubt_ || reply != acknowledge;
     return reply;
 }

@@ -54,6 +54,8 @@ void RSComm::InitializeRSComm(MSComm& CommObj) {
 }
 
 void RSComm::OpenRSComm(MSComm& CommObj) {
+    if (asksUser_)
+        return;
     const Operation operation(*this);
     InitializeRSComm(CommObj);
     if (portSettingsBad_)
@@ -83,6 +85,8 @@ void RSComm::ReportPortError(const RunTimeError& error) {
 }
 
 void RSComm::CloseRSComm() {
+    if (asksUser_)
+        return;
     const Operation operation(*this);
     if (port_ && port_->PortOpen()) {
         for (; dataOwed_ > 0 && !commError_; --dataOwed_) // fills up a command that was cut short

@@ -37,6 +37,8 @@ QString RSComm::RSRead(const QString& Add) {
 // Reads in a row carry no handshake, and the same variable again is not even parsed: two bytes
 // each way. That makes polling cheap.
 QString RSComm::ReadVariable(const QString& variable) {
+    if (asksUser_)
+        return QString();
     const bool inReadMode = linkMode_ == LinkMode::Read;
     if (!inReadMode || !lastVariable_ || lastVariable_->compare(variable, Qt::CaseInsensitive) != 0)
         ParseForReading(variable);
@@ -104,6 +106,8 @@ void RSComm::RSWrite(const QString& Add, const QString& DataValue) {
 }
 
 void RSComm::WriteVariable(const QString& Add, const QString& DataValue) {
+    if (asksUser_)
+        return;
     writeFailed_ = false;
     writeTaken_ = false;
     std::optional<double> value = NumberToWrite(DataValue);

@@ -14,6 +14,10 @@
 /// all. A bit above 7 becomes 7.
 QString EquateAdd(const QString& Var, qint16 TargetBoardIndex);
 
-/// Whether a board of this index has the variable. The bit digit of a bit form is not looked at,
-/// and the hexadecimal form is read as a flag number.
+/// Whether a board of this index has the variable, by its memory class (TargetBoards.h). Bytes run
+/// from 32 to 255 (A), 8275 (B) or 65535 (C), words and double words over the even addresses up to
+/// one less, flags from 0 to 120 (A) or 991. Points run from 0 to 151 on 49 and 50, else to 21,
+/// with the last digit 0 or 1; boards 0 and 68 have none, and image points are on 49 to 54 and 56
+/// only. Any other letter passes with the number 0 alone. The bit digit of a bit form is not looked
+/// at, and the hexadecimal form is read as a flag number.
 bool ValidAdd(const QString& Var, qint16 TargetBoardIndex);

@@ -64,13 +64,17 @@ int HighestPosition(int scaleFactor) {
 }
 
 R6500Coupling ShowR6500(const PLSRecord& record) {
-    R6500Coupling controls;
-    controls.scale = record.ScaleFactor;
-    controls.program = record.PLSProgram;
-    controls.channels = record.Channels;
+    R6500Coupling controls = WithFieldsOf(record, {});
     controls.option = OptionShowing(record.Channels);
     SetUpperEnds(controls);
     FitToScale(controls);
+    return controls;
+}
+
+R6500Coupling WithFieldsOf(const PLSRecord& record, R6500Coupling controls) {
+    controls.scale = record.ScaleFactor;
+    controls.program = record.PLSProgram;
+    controls.channels = record.Channels;
     return controls;
 }
 

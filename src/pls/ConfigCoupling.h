@@ -4,7 +4,8 @@
 #include <array>
 
 /// How scale, channel count and PLS program limit each other. A board has a fixed store: the more
-/// divisions a cycle has, the fewer channels and programs fit.
+/// divisions a cycle has, the fewer channels and programs fit. Half the channels go with twice the
+/// divisions: 64 with up to 511, 8 with up to 4096. What fits beyond that are further programs.
 
 /// Highest octal name of a channel: 7, 17, 37 or 77 for 8, 16, 32 or 64 channels; 7 for any other
 /// count. The upper end of the channel entry (updTmg 1).
@@ -16,7 +17,7 @@ int HighestPosition(int scaleFactor);
 // R6500 layout.
 
 constexpr std::size_t plsChanOptionCount = 4;
-/// Which of optPlsChan 0 to 3 can be chosen.
+/// Which of optPlsChan 0 to 3 (8, 16, 32 and 64 channels) can be chosen.
 using PLSChanOptions = std::array<bool, plsChanOptionCount>;
 
 /// What the configuration controls of the R6500 layout hold. The first three are fields of
@@ -40,6 +41,8 @@ struct R6500Coupling {
 /// that no option has selects 8 channels and stays as read, a scale too high for its channels
 /// stays as read. The record's values are the board's; showing them must never change them.
 R6500Coupling ShowR6500(const PLSRecord& record);
+/// The controls with scale, program and channels of a record, and all else as it was.
+R6500Coupling WithFieldsOf(const PLSRecord& record, R6500Coupling controls);
 /// Entry 0 was accepted with `scale`. An option that no longer fits gives way to the largest that
 /// does, exactly as if the user had clicked it. The upper end of entry 1 stays: only a click of an
 /// option sets it.
@@ -54,6 +57,8 @@ void StoreCoupling(const R6500Coupling& controls, PLSRecord& record);
 
 /// optPlsChan that a scale allows. 8 channels always fit.
 PLSChanOptions OptionsForScale(int scale);
+// These raise std::out_of_range for an option that is not 0 to 3.
+
 /// Upper end of entry 0 for an option: 4096, 2047, 1023 or 511.
 int ScaleMaxOf(int option);
 /// Upper end of entry 1 for an option and a scale: 7, 3, 1 or 0.
@@ -66,8 +71,8 @@ int ChannelsOf(int option);
 /// Scale, and the positions that must stay below it. Fields of PLSRecord, shown in entries 10, 12,
 /// 15 and 16.
 struct StandardPositions {
-    int scale = 0; ///< ScaleFactor, 2 to 512
-    int stopLocation = 0;
+    int scale = 0;        ///< ScaleFactor, 2 to 512
+    int stopLocation = 0; ///< division, as the two below
     int windowOn = 0;
     int windowOff = 0;
 
@@ -77,7 +82,9 @@ struct StandardPositions {
 /// Entry 10 was accepted with `scale`: positions at or above it come down to scale - 1, which is
 /// now the upper end of their entries (HighestPosition).
 StandardPositions ScaleStored(StandardPositions positions, int scale);
+/// Scale and positions of a record.
 StandardPositions PositionsOf(const PLSRecord& record);
+/// Writes scale and positions into the record; each must fit 16 bits.
 void StorePositions(const StandardPositions& positions, PLSRecord& record);
 
 /// Channel count of optR6PlsChan 0 or 1: 16 or 32. The upper end of the channel entry is its

@@ -3,7 +3,7 @@
 #include <QString>
 #include <span>
 
-/// Board indexes of the limit switch boards.
+/// Board indexes of the limit switch boards: the character code that begins their sets' .hdn file.
 namespace PLSBoardIndex {
 constexpr qint16 K2041 = 55;
 constexpr qint16 R6020 = 62;

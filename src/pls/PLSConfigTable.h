@@ -4,9 +4,9 @@
 #include <QtGlobal>
 #include <span>
 
-/// Values of the configuration table sent to a board: four blocks of six.
+/// Values of the configuration table sent to a board: four blocks of six, as its commands take it.
 using PLSSentTable = std::array<qint16, 24>;
-/// Values of the configuration table read from a board.
+/// Values of the configuration table read from a board: all that it answers, 0 to 255 each.
 constexpr int plsReadTableSize = 19;
 
 /// The table that PLSConfigDownload sends, from gPLS. The layout is the R6500 layout for board

@@ -3,7 +3,8 @@
 #include "pls/PLSLayout.h"
 #include "programset/PLSRecord.h"
 
-/// The entries of the timing view: which field each one edits and what it may hold.
+/// The entries of the timing view: which field each one edits and what it may hold. The limits are
+/// what the boards take: a byte, a scale of 512 or 4096 divisions, speeds of four digits.
 
 /// What the up-down of an entry lets it hold, both ends included.
 struct EntryLimits {
@@ -41,6 +42,8 @@ struct PLSEntry {
     int frame;          ///< index of the fraTmg that holds it
     PLSField field;     ///< what it edits
 };
+
+// The operations on an index raise std::out_of_range for one that is not an entry's.
 
 /// The configuration entry of an index, 0 to 18.
 const PLSEntry& ConfigEntry(int index);

@@ -7,7 +7,7 @@ struct PLSLayout;
 /// The texts of the two files of a limit switch program set, built from a record. Lines inside a
 /// text end in CR LF. The last line has no end: that comes from the one text write of the file.
 
-/// Width of a channel's label in a .CHL file.
+/// Width of a channel's label in a .CHL file, in characters, as the suite's tools write it.
 constexpr int chanLabelWidth = 21;
 /// The line that ends a .CHL file.
 inline const QString chlEndLine = QStringLiteral("%");
@@ -20,10 +20,11 @@ QString BuildPCFText(const PLSRecord& record, const PLSLayout& layout);
 /// ends before its column.
 QString ChannelLabel(const QString& chanHeader, const PLSLayout& layout);
 
-/// Lines 1 and 2 of the .CHL file, scale factor and offset, each with its line end.
+/// Lines 1 and 2 of the .CHL file, scale factor and offset in divisions, each with its line end.
+/// Numbers wider than the layout's digits are written whole: nobody reads these lines by columns.
 QString CHLFirstLines(const PLSRecord& record, const PLSLayout& layout);
 /// Header line of a channel, 0 to 63, with its line end. The label is that of `chanHeader`, filled
-/// with blanks or cut to 21 characters.
+/// with blanks or cut to 21 characters. Raises nothing.
 QString CHLHeaderLine(int channel, const QString& chanHeader, const PLSLayout& layout);
 /// Lines of the setpoints of a channel in list order, each with its line end; placeholders are left
 /// out. Raises Overflow (6) for a position that does not fit its digits.

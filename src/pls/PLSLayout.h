@@ -9,21 +9,23 @@
 
 /// A 16-bit configuration value of PLSRecord: a member, or one of the speed compensations.
 struct PLSField {
-    qint16 PLSRecord::*member = nullptr;
-    int speedComp = 0; ///< index into SpeedComp, 0 to 7, where `member` is null
+    qint16 PLSRecord::*member = nullptr; ///< the member, null for a speed compensation
+    int speedComp = 0;                   ///< index into SpeedComp, 0 to 7, where `member` is null
 
     bool operator==(const PLSField&) const = default;
-    /// The value itself, to read or to write.
+    /// The value itself, to read or to write. Raises std::out_of_range for a `speedComp` beyond 7.
     qint16& Of(PLSRecord& record) const;
+    /// Its value in `record`; raises likewise.
     qint16 Of(const PLSRecord& record) const;
 };
 
-/// The speed compensation of a channel, 0 to 7.
+/// The speed compensation (msec) of a channel, 0 to 7, as a field.
 constexpr PLSField SpeedCompField(int channel) {
     return {nullptr, channel};
 }
 
-/// One field of the line of a .PCF file.
+/// One field of the line of a .PCF file. Columns and widths are those that the suite's tools write;
+/// the bounds are what a board takes: a byte, or a position on its longest cycle.
 struct PCFColumn {
     PLSField field;
     int column;    ///< first column, counted from 1
@@ -33,7 +35,8 @@ struct PCFColumn {
     qint16 preset; ///< value without a .PCF file
 };
 
-/// One value of a table exchanged with the board: a byte, or a word with its low byte first.
+/// One value of a table exchanged with the board: a byte, or a word with its low byte first. The
+/// positions are the board's own and differ between the table sent and the table read.
 struct PLSTableEntry {
     PLSField field;
     int position; ///< of the byte, or of the low byte of a word, counted from 0
@@ -53,8 +56,8 @@ struct PLSLayout {
     const char16_t* end = u"0000000000000000%"; ///< what ends the .PCF line
 };
 
-extern const PLSLayout standardLayout;
-extern const PLSLayout r6500Layout;
+extern const PLSLayout standardLayout; ///< of K2041, R6020, R6021, R6040 and R6041
+extern const PLSLayout r6500Layout;    ///< of R6500
 
 /// The layout of a board index: 69 alone is the R6500 layout, every other index, 68 too, the
 /// standard layout. Callers that take 68 as 69 ask with TimingBoardIndex (PLSBoards.h).

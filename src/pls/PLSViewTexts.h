@@ -20,10 +20,12 @@ constexpr int pcfRows = 22;
 constexpr int firstSpeedCompRow = 3;
 constexpr int firstStandardRow = 11;
 
+// Both raise std::out_of_range for another row.
+
 /// Caption of a row, 0 to 21.
 QString PCFRowCaption(int row);
-/// Value of a row, 0 to 21. Rows of an option that is off show its resting value whatever the
-/// record holds.
+/// Value of a row, 0 to 21, in the unit that its caption or the value names. Rows of an option that
+/// is off show its resting value whatever the record holds.
 QString PCFRowValue(int row, const PLSRecord& record);
 
 /// Cells of one row of the channel grid: channel, ON, OFF.

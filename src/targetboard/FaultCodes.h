@@ -25,13 +25,14 @@ constexpr std::array<const char16_t*, FaultPosition::Count> faultAddresses{
 constexpr std::array<const char16_t*, 4> faultResetAddresses{u"B8178", u"B8179", u"B8177",
                                                              u"B8176"};
 
-/// Code that stands for a read that failed: no communication with the computer.
+/// Code that stands for a read that failed: the boards' own code for no communication with the
+/// computer, 42H.
 inline QString FailedReadCode() {
     return QStringLiteral("42");
 }
 
 /// Code text of a value in decimal, as RSRead gives it: upper-case hexadecimal of two digits at
-/// least. "10" gives "0A".
+/// least. "10" gives "0A"; a text without a number gives "00".
 QString FaultCodeText(const QString& value);
 
 /// Whether a code lets the faults be reset: its text, read as a decimal number up to its first

@@ -3,7 +3,8 @@
 #include <array>
 #include <QString>
 
-/// Ident of the program in a board: ten bytes from B61424 up.
+/// Ident of the program in a board: ten bytes from B61424 up, where a program dump puts them: eight
+/// characters of the name, checksum, revision.
 namespace BoardIdent {
 constexpr int firstAddress = 61424;
 constexpr int checksumOffset = 8;

@@ -3,7 +3,9 @@
 #include <array>
 #include <QString>
 
-/// One number of a board that the network and clock pages show and set.
+/// One number of a board that the network and clock pages show and set. The addresses are the
+/// board's; its network has 32 places, and its clock counts hours of 24, months and days from 1 and
+/// years of a century.
 struct SetupEntry {
     const char16_t* address; ///< variable, one byte
     const char16_t* label;   ///< caption of its label
@@ -30,5 +32,6 @@ constexpr std::array<SetupEntry, setupEntryCount> setupEntries{{
 /// The last two characters of "00" and the text: "5" gives "05", "123" gives "23".
 QString LastTwoCharacters(const QString& value);
 
-/// Title of the box that refuses a value: "Set-up" directly followed by the label, "Set-upHr.".
+/// Title of the box that refuses a value: "Set-up" directly followed by the label of entry 0 to 7,
+/// "Set-upHr.".
 QString SetupRefusalTitle(int index);

@@ -23,8 +23,8 @@ public:
     TargetBoardModel(RSComm& link, CommMode& mode, const Clock& clock, Dialogs& dialogs,
                      const ApplicationFolder& folder);
 
-    /// Prepares for a program set and its board; nothing of an earlier one stays.
-    /// Raises as ReadDiskIdent.
+    /// Prepares for a program set, the path of its .hdn file, and its board; nothing of an earlier
+    /// one stays. Raises as ReadDiskIdent.
     void Open(const QString& HdnFile);
     /// The view is on the screen: the loop runs from now on, and its first step goes online.
     void Start();
@@ -33,7 +33,8 @@ public:
     bool Running() const { return running_; }
     const TargetBoardShown& Shown() const { return shown_; }
 
-    /// One step of the loop: one change between online and offline, or one read.
+    /// One step of the loop: one change between online and offline, or one read. Rests after each
+    /// round of the entries and while offline. Errors of the code files are reported by a box.
     ViewLoop::Step TakeStep();
 
     /// Goes online if the link is offline; a communication failure is forgotten.

@@ -20,7 +20,8 @@ struct TargetBoardShown {
     ControlTable controls;
 };
 
-/// As the view opens on a set: captions without codes, a clock of "-".
+/// As the view opens on a set, with what the disk says of it: captions without codes, a clock of
+/// "-".
 TargetBoardShown ShownAtOpening(const DiskIdent& ident);
 /// Puts the texts and controls of a board that cannot be reached.
 void ShowBoardOffline(TargetBoardShown& shown);

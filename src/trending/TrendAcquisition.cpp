@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "base/NumberReader.h"
+#include "base/RunTimeError.h"
 #include "link/RSComm.h"
 #include <array>
 #include <QLocale>
@@ -79,12 +80,14 @@ bool TrendAcquisition::MaySample() const {
 ViewLoop::Step TrendAcquisition::TakeStep() {
     if (!MaySample() || TimerEnabled())
         return Step::Rest;
-    const QString value = ReadValue();
+    const std::optional<QString> value = ReadValue();
+    if (!value)
+        return Step::Rest;
     if (option_ == SampleOption::TimeInterval) {
-        AddSample(value);
-    } else if (value.compare(lastValue_, Qt::CaseInsensitive) != 0) {
-        AddSample(value);
-        lastValue_ = value;
+        AddSample(*value);
+    } else if (value->compare(lastValue_, Qt::CaseInsensitive) != 0) {
+        AddSample(*value);
+        lastValue_ = *value;
     }
     // Without a variable nothing is read, and there is no link to keep the pace.
     return variable_.Known() ? Step::Worked : Step::Rest;
@@ -98,13 +101,22 @@ void TrendAcquisition::TimerTick() {
     // A box of the link or a job may be up; the exchange that it belongs to must not be broken.
     // Any other box, that of a fault of the board above all, must not cost samples.
     if (MaySample() && !link_.OperationRuns() && !ViewLoopHold::AnyHeldForWork())
-        AddSample(ReadValue());
+        if (const std::optional<QString> value = ReadValue())
+            AddSample(*value);
     if (TimerEnabled() && pace_.Due(clock_.MonotonicSeconds()))
         pace_.Served(clock_.MonotonicSeconds()); // passed during the read
 }
 
-QString TrendAcquisition::ReadValue() {
-    return variable_.Known() ? link_.RSRead(variable_.Address()) : QString();
+// The check of variables lets some pass that reach beyond the memory of any board, as "D65534"
+// does: they have no value.
+std::optional<QString> TrendAcquisition::ReadValue() {
+    if (!variable_.Known())
+        return QString();
+    try {
+        return link_.RSRead(variable_.Address());
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
 }
 
 QString TrendAcquisition::ElapsedText() {

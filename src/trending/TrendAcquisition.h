@@ -84,7 +84,7 @@ public:
 
 private:
     bool MaySample() const;
-    QString ReadValue();
+    std::optional<QString> ReadValue();
     void AddSample(const QString& value);
     QString ElapsedText();
     void SetCounter(qint32 count);

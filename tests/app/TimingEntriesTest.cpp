@@ -4,7 +4,6 @@
 #include "controls/grid/Grid.h"
 #include "pls/views/frmTiming.h"
 #include "session/Globals.h"
-#include <gmock/gmock.h>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>

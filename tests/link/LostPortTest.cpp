@@ -54,6 +54,21 @@ TEST_F(LostPort, WhatThePortRaisesStaysInsideTheLink) {
     EXPECT_EQ(port.Sent(), Bytes{});
 }
 
+TEST_F(LostPort, WhatThePortRaisesInAnyWaitStaysInsideTheLink) {
+    constexpr int waitsOfARead = 6; // the attention is answered wrongly first: a doubtful handshake
+    for (int wait = 1; wait <= waitsOfARead; ++wait) {
+        GoOnline();
+        port.Reply(0x54);
+        AcceptHandshake();
+        AnswerRead(0, 8);
+        port.RaiseInWait(wait, 57);
+        EXPECT_EQ(link.RSRead(QStringLiteral("B100")), QStringLiteral("0")) << wait;
+        EXPECT_TRUE(link.CommError()) << wait;
+        EXPECT_FALSE(link.OperationRuns()) << wait;
+        port.ForgetScript();
+    }
+}
+
 TEST_F(LostPort, AReplyThatIsGoneWhenItIsTakenIsAFailureAndNoZero) {
     AnswerRead(0, 8);
     port.WithholdInput(true);

@@ -173,6 +173,19 @@ TEST(ConfigCoupling, WithNoOptionSelectedOnlyAScaleFrom2048SelectsOne) {
     EXPECT_EQ(ScaleStored(R6500Coupling(), 2048).channels, 8);
 }
 
+TEST(ConfigCoupling, FieldsOfARecordReplaceThoseOfTheControlsAndNothingElse) {
+    PLSRecord record;
+    record.Channels = 16;
+    record.ScaleFactor = 400;
+    record.PLSProgram = 2;
+    R6500Coupling expected = WithOption(0, 360, 5);
+    const R6500Coupling replaced = WithFieldsOf(record, expected);
+    expected.channels = 16;
+    expected.scale = 400;
+    expected.program = 2;
+    EXPECT_EQ(replaced, expected);
+}
+
 TEST(ConfigCoupling, AnAcceptedProgramIsStored) {
     R6500Coupling expected = WithOption(0, 360, 0);
     const R6500Coupling stored = ProgramStored(expected, 5);

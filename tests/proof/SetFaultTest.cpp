@@ -123,10 +123,10 @@ void Copy(const QString& folder) {
 }
 
 void CreateOverOld(const QString& folder) {
-    constexpr qint16 k2014 = 52;
+    constexpr qint16 k2021 = 52;
     AnsweredDialogs dialogs;
     DiskFileOperations files;
-    NewProgramSet(dialogs, files).Create(QStringLiteral("OLD"), folder, k2014);
+    NewProgramSet(dialogs, files).Create(QStringLiteral("OLD"), folder, k2021);
 }
 } // namespace
 

@@ -138,6 +138,8 @@ QByteArray ScriptedPort::Input() {
 }
 
 bool ScriptedPort::WaitForInput(double deadline) {
+    if (waitsUntilError_ > 0 && --waitsUntilError_ == 0)
+        throw RunTimeError(waitError_);
     if (!open_)
         return false;
     if (!arriving_.empty() && arriving_.front().at <= deadline) {

@@ -21,6 +21,11 @@ public:
     void ReplyTwice(int first, int second);
     /// The next byte that is sent gets no answer.
     void Silence();
+    /// Nothing of the script is left, and nothing is under way.
+    void ForgetScript() {
+        script_.clear();
+        arriving_.clear();
+    }
     /// Every byte that has no scripted reply is echoed, except that an attention and the command
     /// byte after it are acknowledged.
     void AnswerLikeBoard(bool on) { answersLikeBoard_ = on; }
@@ -35,6 +40,11 @@ public:
     void RefusePortNumbers(int times) { portNumberRefusals_ = times; }
     /// Each byte sent raises this error number; 0 ends that.
     void RefuseOutput(int errorNumber) { outputError_ = errorNumber; }
+    /// The wait for input of this number, counted from now and from 1, raises this error number.
+    void RaiseInWait(int wait, int errorNumber) {
+        waitsUntilError_ = wait;
+        waitError_ = errorNumber;
+    }
     /// Input gives nothing although bytes wait.
     void WithholdInput(bool on) { withholdsInput_ = on; }
 
@@ -81,6 +91,8 @@ private:
     int bytesUntilLoss_ = -1;
     int outputError_ = 0;
     bool withholdsInput_ = false;
+    int waitsUntilError_ = 0;
+    int waitError_ = 0;
     int commPort_ = 1;
     int inputLen_ = 0;
     QString settings_;

@@ -181,6 +181,39 @@ TEST_F(Acquisition, TheTimerKeepsOffTheLineWhileTheLinkShowsABox) {
     EXPECT_EQ(display.samples, 0);
 }
 
+// Behind this box no communication failure stands in the way.
+TEST_F(Acquisition, TheTimerKeepsOffTheLineWhileTheLinkAsksAboutAMode) {
+    Watch();
+    Interval(1);
+    for (int i = 0; i < 4; ++i)
+        port.Reply(0x00, 0.5);
+    ExpectAlert(NoModeAlert(), MsgAnswer::Cancel, [this] {
+        const auto sent = port.Sent().size();
+        clock.AdvanceTo(clock.MonotonicSeconds() + 0.2);
+        trend.TimerTick();
+        EXPECT_EQ(port.Sent().size(), sent);
+    });
+    link.PLSOffset();
+    EXPECT_EQ(display.samples, 0);
+}
+
+// It is a variable by its range, but its last bytes lie beyond the memory of any board. An error
+// that got out of here would end the program.
+TEST_F(Acquisition, AVariableThatReachesBeyondTheMemoryGivesNoSample) {
+    Watch(QStringLiteral("D65534"));
+    EXPECT_EQ(trend.TakeStep(), ViewLoop::Step::Rest);
+    Continuous();
+    EXPECT_EQ(trend.TakeStep(), ViewLoop::Step::Rest);
+    Interval(1);
+    clock.AdvanceTo(clock.MonotonicSeconds() + 0.2);
+    trend.TimerTick();
+    EXPECT_EQ(display.samples, 0);
+    EXPECT_TRUE(port.Sent().empty());
+    Watch();
+    TickReading(7, clock.MonotonicSeconds() + 0.2);
+    EXPECT_EQ(display.samples, 1) << "the next variable is sampled";
+}
+
 TEST_F(Acquisition, TheTimerKeepsOffTheLineWhileAJobRuns) {
     Watch();
     Interval(1);

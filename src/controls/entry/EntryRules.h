@@ -3,7 +3,8 @@
 #include <QString>
 #include <vector>
 
-/// What an up-down lets its entry hold, both ends included.
+/// What an up-down lets its entry hold, both ends included. 0 to 100 is the range of an up-down
+/// that was given none.
 struct EntryRange {
     int min = 0;
     int max = 100;
@@ -11,7 +12,7 @@ struct EntryRange {
 
 /// The rules of the numeric entries of one view, without its window: which text is accepted, what
 /// Escape puts back, when Escape leaves. Entries are told by index, 0 to count - 1; they share one
-/// flag, Escape pressed once.
+/// flag, Escape pressed once. An index must be one of theirs.
 class EntryRules {
 public:
     /// What Escape does in an entry.
@@ -36,7 +37,7 @@ public:
     /// Any key but Escape, a step of the up-down, or the entry is left.
     void ForgetEscape() { escapePressed_ = false; }
     Escape EscapePressed(int index);
-    /// The number that the entry held when it got the focus.
+    /// The number that the entry held when it got the focus; "0" where there was none.
     QString Remembered(int index) const;
 
 private:

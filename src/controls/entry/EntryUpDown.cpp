@@ -1,12 +1,20 @@
 #include "controls/entry/EntryUpDown.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
 constexpr int arrowsWidth = 20; // pixels before scaling: the narrowest that is still easily hit
+
+// An arrow that is held down repeats its click by a timer of its own, also when a step has brought
+// up a message box, and the box takes the release of the mouse.
+bool IsBehindModal(const QWidget& widget) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return modal && modal != widget.window();
 }
+} // namespace
 
 EntryUpDown::EntryUpDown(QLineEdit& buddy, QWidget* parent) : QWidget(parent), buddy_(buddy) {
     auto* arrows = new QVBoxLayout(this);
@@ -25,7 +33,12 @@ QToolButton* EntryUpDown::AddArrow(Qt::ArrowType type, int difference, const QSt
     arrow->setAutoRepeat(true);
     arrow->setFocusPolicy(Qt::NoFocus);
     arrow->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    connect(arrow, &QToolButton::clicked, this, [this, difference] { Step(difference); });
+    connect(arrow, &QToolButton::clicked, this, [this, arrow, difference] {
+        if (IsBehindModal(*this))
+            arrow->setDown(false);
+        else
+            Step(difference);
+    });
     return arrow;
 }
 

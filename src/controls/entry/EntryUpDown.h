@@ -7,7 +7,8 @@ class QLineEdit;
 class QToolButton;
 
 /// The pair of arrows beside the text box of a numeric entry. It holds the range and steps the
-/// number in the box; what is typed there it leaves alone. The arrows never take the focus.
+/// number in the box; what is typed there it leaves alone. The arrows never take the focus; held
+/// down they repeat, until they are released or a modal window comes up before them.
 class EntryUpDown final : public QWidget {
     Q_OBJECT
 public:

@@ -19,10 +19,11 @@ namespace {
 constexpr int smallestScale = 2;
 constexpr int largestScale = 4096;
 
-// What a command of the board read, or nothing when it failed: "-9999" is no reading.
-std::optional<qint16> Reading(const QString& text, int least, int most) {
+// What a command of the board read, or nothing when it failed: "-9999" is no reading. A number out
+// of bounds counts if an earlier reading gave it too: then the board does hold it.
+std::optional<qint16> Reading(const QString& text, int least, int most, qint16 known) {
     const qint64 number = WholeNumberValue(text);
-    if (number < least || number > most)
+    if (number != known && (number < least || number > most))
         return std::nullopt;
     return static_cast<qint16>(number);
 }
@@ -56,15 +57,16 @@ void ConfigEditor::ReadBoardConfig() {
     ShowConfig();
 }
 
-// A number that no board can have stays out of gPLS: it would be taken for an edit and sent back.
+// A number that no board should have stays out of gPLS: it would be taken for an edit and sent
+// back.
 bool ConfigEditor::ReadNumbers() {
     const std::optional<qint16> scale =
-        Reading(link_.PLSScaleFactor(), smallestScale, largestScale);
+        Reading(link_.PLSScaleFactor(), smallestScale, largestScale, gPLS.ScaleFactor);
     if (link_.CommError() || !scale)
         return false;
     gPLS.ScaleFactor = *scale;
     form_.ShowPanel(MachinePanel::Scale, MachineTexts::Scale(*scale));
-    const std::optional<qint16> offset = Reading(link_.PLSOffset(), 0, largestScale);
+    const std::optional<qint16> offset = Reading(link_.PLSOffset(), 0, largestScale, gPLS.Offset);
     if (link_.CommError() || !offset)
         return false;
     gPLS.Offset = *offset;
@@ -142,7 +144,9 @@ void ConfigEditor::ShowCoupling() {
         ChannelEntryToZero();
 }
 
-void ConfigEditor::TakeCoupling() {
+// The fields may be newer than what was shown last, as when a reading failed behind an upload.
+void ConfigEditor::ChangeCoupling(R6500Coupling (*change)(R6500Coupling, int), int value) {
+    state_.coupling = change(WithFieldsOf(gPLS, state_.coupling), value);
     StoreCoupling(state_.coupling, gPLS);
     state_.enablement.FitChannelOptions(state_.coupling.optionEnabled);
     ShowCoupling();
@@ -163,8 +167,10 @@ void ConfigEditor::EnableConfigControls() {
     screen_.ShowEnablement();
 }
 
+// The option is chosen, not only shown: the next reset sends the number of channels on the screen.
 void ConfigEditor::ShowRefusedConfig() {
-    Choose(form_.optPlsChan, 0);
+    if (state_.IsR6500())
+        optPlsChan_Click(0);
     for (int i = PLSEntryIndex::Scale; i <= PLSEntryIndex::LastSpeedComp; ++i)
         form_.Config(i).box->setText(QStringLiteral("---"));
 }
@@ -180,12 +186,10 @@ void ConfigEditor::EntryAccepted(int index, int value) {
     state_.enablement.EntryStored();
     switch (index) {
     case PLSEntryIndex::Scale:
-        state_.coupling = ScaleStored(state_.coupling, value);
-        TakeCoupling();
+        ChangeCoupling(&ScaleStored, value);
         break;
     case PLSEntryIndex::Program:
-        state_.coupling = ProgramStored(state_.coupling, value);
-        TakeCoupling();
+        ChangeCoupling(&ProgramStored, value);
         break;
     case PLSEntryIndex::StandardScale:
         StandardScaleStored(value);
@@ -220,8 +224,7 @@ void ConfigEditor::cboTargetBoard_Click(int position) {
 }
 
 void ConfigEditor::optPlsChan_Click(int option) {
-    state_.coupling = PLSChanClicked(state_.coupling, option);
-    TakeCoupling();
+    ChangeCoupling(&PLSChanClicked, option);
 }
 
 void ConfigEditor::optR6PlsChan_Click(int option) {

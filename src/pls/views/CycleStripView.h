@@ -28,7 +28,9 @@ public:
 
     explicit CycleStripView(QWidget* parent = nullptr);
 
+    /// Shows another cycle, at the next repaint that is due.
     void Show(const ShownCycle& cycle);
+    /// What was told last, painted or not yet.
     const ShownCycle& Shown() const { return cycle_; }
 
     QSize sizeHint() const override;

@@ -11,12 +11,15 @@ class TimingScreen;
 class GridEvents final : public QObject {
     Q_OBJECT
 public:
+    /// Takes over keys, clicks, moves and the context menu of the grid. All but `parent`, which
+    /// may be null, must outlive the object.
     GridEvents(TimingScreen& screen, ChannelDisplay& channels, NumericEntries& entries,
                QObject* parent);
 
     /// Forgets that Escape was pressed once.
     void ClearEscape() { escapePressed_ = false; }
-    /// Puts the selected cells on the clipboard as text.
+    /// Puts the selected cells on the clipboard as text: tabs between cells, line ends between
+    /// rows.
     void CopyClip();
 
 private:

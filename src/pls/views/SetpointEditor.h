@@ -15,16 +15,22 @@ class SetpointEditor {
 public:
     SetpointEditor(const TimingSeams& seams, TimingScreen& screen, ChannelDisplay& channels);
 
+    /// Adds the ON and OFF of the entries (divisions) to the channel, or tells why not.
     void cmdAddSetpoint_Click();
+    /// Puts them in place of the setpoint selected: the channel is cleared and written anew.
     void cmdAdjustSetpoint_Click();
+    /// Replaces the channel by ON and OFF divisions all round from the START division on.
     void cmdPulseTrain_Click();
+    /// Reads the channel from the board.
     void cmdRecallChan_Click();
+    /// Asks, then clears the channel; a board that refuses is asked again if the user wants it.
     void cmdClearChan_Click();
+    /// Asks, then clears every channel by job 8.
     void cmdClearAll_Click();
 
-    /// The channel entry was left with a number within its range, or stepped to it.
+    /// The channel entry was left with a number within its range (0 to 77), or stepped to it.
     void ChannelEntered(int name);
-    /// The setpoint entry likewise.
+    /// The setpoint entry likewise (0 to the channel's last index).
     void SetpointEntered(int index);
 
 private:

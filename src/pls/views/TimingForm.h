@@ -40,6 +40,7 @@ constexpr int Count = 4;
 /// strip on the left, channel and offset in the middle, the configuration of the board's layout on
 /// the right, the machine's words below.
 struct TimingForm {
+    /// Makes the controls as children of `view`, which has no layout yet.
     explicit TimingForm(QWidget& view);
 
     QLabel* lblTargetBoard;
@@ -70,7 +71,7 @@ struct TimingForm {
     // `index` as PLSEntryIndex and TimingEntryIndex tell.
     EntryParts& Config(int index) { return config[static_cast<std::size_t>(index)]; }
     EntryParts& Timing(int index) { return timing[static_cast<std::size_t>(index)]; }
-    /// Sets the text of a panel if it is another one.
+    /// Sets the text of a panel, MachinePanel, if it is another one.
     void ShowPanel(int panel, const QString& text);
     /// The grid's texts in blue, or what is as good on a dark ground; grey while it is off.
     void ShowGridColours(const QPalette& palette);

@@ -35,17 +35,18 @@ public:
     void ShowSetpoint(const ShownSetpoint& shown);
     /// Its ON and OFF and the limit of the setpoint entry alone.
     void ShowEnds(const ShownSetpoint& shown);
+    /// Sets the text of setpoint entry 0 to 5 if it is another one.
     void ShowTimingText(int index, const QString& text);
     /// All setpoint entries show "-": there is no board.
     void ClearTimingTexts();
-    /// Upper end of the offset, ON, OFF and START entries.
+    /// Upper end of the offset, ON, OFF and START entries, in divisions.
     void SetPositionMax(int max);
     /// Upper end of the channel entry, an octal name.
     void SetChannelMax(int name);
     /// The four panels say that nothing is known.
     void ClearPanels();
 
-    /// Number in a setpoint entry.
+    /// Number in a setpoint entry, held within 16 bits; 0 where there is none.
     int TimingNumber(int index) const;
     /// Number of the channel entry: the octal name in decimal look.
     int ChannelName() const { return TimingNumber(TimingEntryIndex::Channel); }
@@ -56,7 +57,9 @@ public:
 
     /// Brings the strip up to date with the channel entry, gPLS and the panels.
     void ShowCycle();
+    /// The focus goes to the hidden button cmdDefault.
     void FocusDefault();
+    /// Whether the view is on the screen.
     bool IsVisible() const;
 
     TimingForm& Form() { return form_; }

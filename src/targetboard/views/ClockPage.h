@@ -11,8 +11,10 @@ class QPushButton;
 /// The page of the real time clock, fraTargetBoard(3).
 class ClockPage final : public QFrame {
 public:
+    /// Makes the page; its entries join `entries`, which must outlive it.
     explicit ClockPage(NumericEntries& entries, QWidget* parent = nullptr);
 
+    /// Brings board clock, computer clock and buttons up to date.
     void Show(const TargetBoardShown& shown);
     QPushButton* cmdSetToCurrTime() const { return cmdSetToCurrTime_; }
     QPushButton* cmdSetToCurrDate() const { return cmdSetToCurrDate_; }

@@ -15,6 +15,7 @@ class FaultPage final : public QFrame {
 public:
     explicit FaultPage(QWidget* parent = nullptr);
 
+    /// Brings codes, descriptions, advice and the button up to date.
     void Show(const TargetBoardShown& shown);
     QPushButton* cmdResetFaults() const { return cmdResetFaults_; }
 

@@ -13,6 +13,7 @@ class IdentPage final : public QFrame {
 public:
     explicit IdentPage(QWidget* parent = nullptr);
 
+    /// Brings both idents up to date. Bytes that are no characters show as blanks.
     void Show(const TargetBoardShown& shown);
 
 private:

@@ -6,6 +6,7 @@
 #include <array>
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -246,4 +247,22 @@ TEST(EntryUpDown, SetValueFillsTheBoxWithinTheRangeAndIsNoChange) {
     EXPECT_EQ(box.text(), "32");
     EXPECT_EQ(upDown.Value(), 32);
     EXPECT_EQ(changes, 0);
+}
+
+// An arrow that is held down repeats its click, and the release may never come when a message box
+// takes the mouse away: it must neither step the number behind the box nor go on after it.
+TEST_F(NumericEntriesTest, AnArrowHeldDownEndsBehindAModalWindow) {
+    auto* up = upDowns[0]->findChild<QToolButton*>("up");
+    QTest::mousePress(up, Qt::LeftButton);
+    ASSERT_TRUE(up->isDown());
+    QDialog box(&window);
+    box.setModal(true);
+    box.show();
+    Q_EMIT up->clicked(); // what the repetition of a button that is down does
+    EXPECT_EQ(boxes[0]->text(), "5");
+    EXPECT_EQ(heard, QStringList());
+    EXPECT_FALSE(up->isDown()) << "a button that is not down repeats nothing";
+    box.hide();
+    ClickArrow(0, "up");
+    EXPECT_EQ(boxes[0]->text(), "6");
 }

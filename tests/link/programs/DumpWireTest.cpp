@@ -1,4 +1,5 @@
 #include "link/programs/DumpFixture.h"
+#include <QTimer>
 
 namespace {
 const char boards[] = {'2', '3', '4', '5', '6', '8', ':', ';', '<', '=', 'A', 'B', 'D'};
@@ -149,4 +150,26 @@ TEST_F(DumpTest, WithoutAGoodRevFileTheDumpGoesOnUnderAnUnknownIdent) {
     ExpectComplete();
     link.DumpProgram();
     CheckWire();
+}
+
+// A record with its reply is one exchange; what is pending runs before it or after it.
+TEST_F(DumpTest, HandlersAndTimersRunBetweenRecordsOnly) {
+    StartDump();
+    GoodRecord({0x02, 0x20, 0x00, 0x07, 0x08});
+    GoodRecord({0x01, 0x20, 0x02, 0x09});
+    Pair(0xFF, 0x55);
+    WriteIdentBlock(QByteArray("PUMP1\0\0\0", 8), 163, 1);
+    Prepare('D', ":022000000708D8\r\n:0120020009D6\r\n:00000001FF\r\n");
+    ExpectQuestion("R6500(PLC)", {"", "0", "0"}, MsgAnswer::Yes);
+    ExpectComplete();
+    std::vector<std::size_t> sentSoFar;
+    QTimer pending;
+    QObject::connect(&pending, &QTimer::timeout,
+                     [this, &sentSoFar] { sentSoFar.push_back(port.Sent().size()); });
+    pending.start(0);
+    link.DumpProgram();
+    ASSERT_EQ(sentSoFar.size(), 3u) << "once before each line of the file";
+    EXPECT_EQ(sentSoFar[1] - sentSoFar[0], 5u);
+    EXPECT_EQ(sentSoFar[2] - sentSoFar[1], 4u);
+    EXPECT_EQ(port.Sent()[sentSoFar[0] - 1], 0x03) << "the board is in program mode";
 }

@@ -129,6 +129,22 @@ TEST_F(UploadTest, AddressesOfAK2012RunFrom5000ToFFF0InStepsOf16) {
     EXPECT_EQ(seen.back(), QStringLiteral("FFF0H"));
 }
 
+TEST_F(UploadTest, HandlersAndTimersRunBetweenLinesOnly) {
+    ConnectBoard(52);
+    line->SetBaud(9600);
+    const double lineTime = 16 * 4 * line->ByteTime();
+    std::vector<double> moments;
+    QTimer pending;
+    QObject::connect(&pending, &QTimer::timeout,
+                     [this, &moments] { moments.push_back(clock.MonotonicSeconds()); });
+    pending.start(0);
+    ExpectUploadComplete();
+    Upload(52);
+    ASSERT_EQ(moments.size(), 0x200u) << "once before each line of the file";
+    for (std::size_t i = 1; i < moments.size(); ++i)
+        ASSERT_NEAR(moments[i] - moments[i - 1], lineTime, 0.01) << i;
+}
+
 TEST_F(UploadTest, AByteCostsFourBytesOnTheWire) {
     ConnectBoard(52);
     line->SetBaud(19200);

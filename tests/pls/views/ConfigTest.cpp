@@ -22,6 +22,10 @@ class TimingConfigR6500 : public TimingConfig {
 protected:
     TimingConfigR6500() : TimingConfig(r6500) {}
 };
+class TimingConfigR6041 : public TimingConfig {
+protected:
+    TimingConfigR6041() : TimingConfig(r6041) {}
+};
 } // namespace
 
 TEST_F(TimingConfigR6500, Entering5000InEntry0With8ChannelsGivesTheMessageWith2And4096) {
@@ -193,6 +197,8 @@ TEST_F(TimingConfig, ResetSendsTheConfigurationAndReadsTheBoardAgain) {
     Type(Config(17), "300");
     Type(Config(10), "400");
     Rounds();
+    EXPECT_EQ(board.Pls().ScaleFactor(), 360) << "nothing goes out before the button";
+    EXPECT_EQ(board.Pls().ConfigTable()[18], 1);
     runner.ran.clear();
     Click("cmdResetPLSConfig");
     EXPECT_EQ(board.Pls().ScaleFactor(), 400);
@@ -220,4 +226,44 @@ TEST_F(TimingConfigR6500, ResetSendsChannelsProgramAndSpeedCompensation) {
     EXPECT_TRUE(Option("optPlsChan", 1)->isChecked());
     EXPECT_EQ(Config(9)->text(), "255");
     EXPECT_EQ(Cell(17, 0), "CH10");
+}
+
+TEST_F(TimingConfigR6500, AMachineThatComesToStandOffersOnlyTheChannelsThatTheScaleAllows) {
+    OpenOnline();
+    ClickOption("optPlsChan", 1);
+    Type(Config(0), "1024");
+    Rounds();
+    Click("cmdResetPLSConfig");
+    SetSpeed(20);
+    Rounds();
+    SetSpeed(0);
+    Rounds();
+    EXPECT_TRUE(Option("optPlsChan", 0)->isEnabled());
+    EXPECT_TRUE(Option("optPlsChan", 1)->isEnabled());
+    EXPECT_FALSE(Option("optPlsChan", 2)->isEnabled());
+    EXPECT_FALSE(Option("optPlsChan", 3)->isEnabled());
+    EXPECT_EQ(gPLS.ScaleFactor, 1024);
+    EXPECT_EQ(gPLS.Channels, 16);
+}
+
+TEST_F(TimingConfigR6041, ThirtyTwoChannelsLetTheChannelEntryGoTo37AndSixteenTo17) {
+    OpenOnline();
+    Type(Timing(1), "5");
+    ClickOption("optR6PlsChan", 1);
+    EXPECT_EQ(gPLS.Channels, 32);
+    EXPECT_EQ(RangeOf("updTmg", 1).max, 37);
+    EXPECT_EQ(Timing(1)->text(), "0");
+    ClickOption("optR6PlsChan", 0);
+    EXPECT_EQ(gPLS.Channels, 16);
+    EXPECT_EQ(RangeOf("updTmg", 1).max, 17);
+}
+
+TEST_F(TimingConfigR6041, ResetSendsThe32ChannelsAndTheGridListsThem) {
+    OpenOnline();
+    ClickOption("optR6PlsChan", 1);
+    Rounds();
+    Click("cmdResetPLSConfig");
+    EXPECT_EQ(board.Pls().Channels(), 32);
+    EXPECT_TRUE(Option("optR6PlsChan", 1)->isChecked());
+    EXPECT_EQ(Cell(1 + 2 * 31, 0), "CH37");
 }

@@ -241,6 +241,17 @@ TEST_F(TimingMachine, TheUsersOfflineCommandTakesTheViewOffline) {
     EXPECT_THAT(Live(), IsEmpty());
 }
 
+TEST_F(TimingMachine, OfflineNoNumberOfChannelsIsChosen) {
+    OpenOnline();
+    EXPECT_TRUE(Option("optR6PlsChan", 0)->isChecked());
+    mode.GoOffline();
+    Until([this] { return ListIsOn(); });
+    for (int i = 0; i < 2; ++i)
+        EXPECT_FALSE(Option("optR6PlsChan", i)->isChecked()) << i;
+    for (int i = 0; i < 4; ++i)
+        EXPECT_FALSE(Option("optPlsChan", i)->isChecked()) << i;
+}
+
 TEST_F(TimingMachineR6041, ThirtyTwoChannelsCanBeChosenOnThisBoardAlone) {
     OpenOnline();
     EXPECT_TRUE(Option("optR6PlsChan", 1)->isEnabled());

@@ -18,6 +18,8 @@ constexpr int retryCancel = 37;
 constexpr int recordReplies = 2 + 6 + 3; // handshake, data, ready poll
 constexpr int wordReplies = 2 + 2;
 constexpr int ofHandshake = 2;
+constexpr int tableReplies = 2 + 19;
+constexpr int scaleHighByte = tableReplies + ofHandshake + 2; // reply of a display
 constexpr int ninth = 8;
 
 class BoardRefuses : public TimingUnderTest {
@@ -34,6 +36,12 @@ protected:
     void RefuseDataBehind(int replies) {
         line.Faults().Order({haldenboard::FaultKind::Wrong, replies + ofHandshake + 1});
     }
+    // Displays the channels with a scale of 360 read as 4456, and nothing else amiss.
+    void DisplayWithScaleOf4456() {
+        line.Faults().Order({haldenboard::FaultKind::Wrong, scaleHighByte, false, 0, 0x10});
+        view.DisplayPLSChannels();
+        ASSERT_EQ(line.Faults().Outstanding(), 0U);
+    }
     void ExpectBox(const char* text, int style, const char* title, int answer = MsgAnswer::Ok) {
         dialogs.ExpectBox(text, style, title, answer);
     }
@@ -47,6 +55,11 @@ protected:
         EXPECT_FALSE(link.CommError());
     }
     const SetpointList& Ninth() const { return gPLS.Chan[ninth]; }
+};
+
+class BoardRefusesR6500 : public BoardRefuses {
+protected:
+    BoardRefusesR6500() : BoardRefuses(r6500) {}
 };
 
 class BoardRefusesR6041 : public BoardRefuses {
@@ -137,6 +150,59 @@ TEST_F(BoardRefuses, ATableOutOfAllBoundsIsReportedWhenTheChannelsAreDisplayed) 
     ASSERT_TRUE(link.PLSConfigDownload(table, 360));
     ExpectBox("Error Number = 6\r\n\r\nOverflow", 16, "Display PLS Channels");
     view.DisplayPLSChannels();
+}
+
+TEST_F(BoardRefuses, AScaleOutOfBoundsThatWasNotReadBeforeIsNoScale) {
+    OpenOnline();
+    DisplayWithScaleOf4456();
+    EXPECT_EQ(gPLS.ScaleFactor, 360);
+    EXPECT_EQ(Panel(4), "Scale: 360");
+    Rounds();
+    EXPECT_FALSE(Button("cmdResetPLSConfig")->isEnabled());
+}
+
+// As a board may hold it that was never set up: the user must see it to mend it.
+TEST_F(BoardRefuses, AScaleOutOfBoundsThatTheUploadReadTooIsShown) {
+    OpenOnline();
+    gPLS.ScaleFactor = gPLSSnapshot.ScaleFactor = 4456;
+    DisplayWithScaleOf4456();
+    EXPECT_EQ(Panel(4), "Scale: 4456");
+    EXPECT_EQ(Config(10)->text(), "4456");
+    EXPECT_EQ(RangeOf("updTmg", 2).max, 4455);
+    EXPECT_FALSE(Button("cmdResetPLSConfig")->isEnabled());
+}
+
+TEST_F(BoardRefusesR6500, AnEditKeepsTheChannelsAndProgramThatWereReadButCouldNotBeShown) {
+    OpenOnline();
+    gPLS.Channels = gPLSSnapshot.Channels = 16;
+    gPLS.PLSProgram = gPLSSnapshot.PLSProgram = 2;
+    Type(Config(0), "400");
+    EXPECT_EQ(gPLS.ScaleFactor, 400);
+    EXPECT_EQ(gPLS.Channels, 16);
+    EXPECT_EQ(gPLS.PLSProgram, 2);
+    Type(Config(1), "1");
+    EXPECT_EQ(gPLS.ScaleFactor, 400);
+    EXPECT_EQ(gPLS.Channels, 16);
+}
+
+TEST_F(BoardRefusesR6500, AResetGivenUpSelects8ChannelsAndTheNextResetSendsThem) {
+    OpenOnline();
+    ClickOption("optPlsChan", 1);
+    Rounds();
+    gPLS.SpeedComp[0] = 300; // no byte: the link refuses the table
+    ExpectBox("Unable to Reset PLS Configuration Parameters", retryCancel, "PLS Config Download",
+              MsgAnswer::Cancel);
+    Click("cmdResetPLSConfig");
+    EXPECT_TRUE(Option("optPlsChan", 0)->isChecked());
+    EXPECT_EQ(gPLS.Channels, 8);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(Config(i)->text(), "---");
+    ClickArrow("updPLS_CFG", 2, "up");
+    Rounds();
+    Click("cmdResetPLSConfig");
+    EXPECT_EQ(board.Pls().Channels(), 8);
+    EXPECT_EQ(board.Pls().ConfigTable()[2], 1);
+    EXPECT_EQ(Config(0)->text(), "360");
 }
 
 // The option shown says how far the channel entry goes.

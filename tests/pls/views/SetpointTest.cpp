@@ -186,15 +186,17 @@ TEST_F(TimingSetpoints, ARecallOfAnEmptyChannelLeavesOneZeroSetpoint) {
     EXPECT_EQ(RangeOf("updTmg", 5).max, 0);
 }
 
-TEST_F(TimingSetpoints, CancelOnTheOffsetQuestionResetsTheEntryTo0) {
+TEST_F(TimingSetpoints, NoOrCancelOnTheOffsetQuestionResetsTheEntryTo0) {
     OpenOnline();
-    Type(Timing(0), "100");
-    dialogs.ExpectBox(
-        "You are about to Change the Resolver Offset.\r\n\r\nDo you wish to continue?", yesNoCancel,
-        "Set Offset", MsgAnswer::Cancel);
-    Click("cmdSetOffset");
-    EXPECT_EQ(Timing(0)->text(), "0");
-    EXPECT_EQ(Sent(offsetCommand), 0);
+    for (const int answer : {MsgAnswer::No, MsgAnswer::Cancel}) {
+        Type(Timing(0), "100");
+        dialogs.ExpectBox(
+            "You are about to Change the Resolver Offset.\r\n\r\nDo you wish to continue?",
+            yesNoCancel, "Set Offset", answer);
+        Click("cmdSetOffset");
+        EXPECT_EQ(Timing(0)->text(), "0");
+        EXPECT_EQ(Sent(offsetCommand), 0);
+    }
 }
 
 TEST_F(TimingSetpoints, ANewOffsetGoesIntoTheBoard) {
@@ -275,6 +277,19 @@ TEST_F(TimingSetpoints, TheSetpointEntryWalksThroughTheChannel) {
     EXPECT_EQ(Timing(3)->text(), "40");
     ClickArrow("updTmg", 5, "up");
     EXPECT_EQ(Timing(5)->text(), "1");
+}
+
+TEST_F(TimingSetpoints, AnEmptyChannelEmptiesOnAndOffAndAnEntryBeginsWith0) {
+    OpenWith({{20, 10}});
+    gPLS.Chan[2].clear();
+    Type(Timing(1), "2");
+    EXPECT_EQ(Timing(2)->text(), "");
+    EXPECT_EQ(Timing(3)->text(), "");
+    EXPECT_EQ(RangeOf("updTmg", 5).max, 0);
+    QTest::mouseClick(Timing(2), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Timing(2)->text(), "0");
+    EXPECT_EQ(Timing(2)->selectedText(), "0");
 }
 
 TEST_F(TimingSetpoints, TwoEscapesInAnEntryRestoreItAndLeave) {

@@ -10,6 +10,7 @@ using testing::IsEmpty;
 
 namespace {
 constexpr int address1 = 8180;
+constexpr int identTab = 1;
 constexpr int networkTab = 2;
 constexpr int clockTab = 3;
 
@@ -313,6 +314,49 @@ TEST_F(TargetBoardView, OpensASecondTimeAsTheFirst) {
         EXPECT_TRUE(Find<QWidget>("fraTargetBoard(0)")->isVisible());
         UntilPolled();
         EXPECT_EQ(Entry(0)->text(), "05");
+    });
+}
+
+TEST_F(TargetBoardView, TheIdentPageShowsTheBoardAndTheDisk) {
+    files.Write("PUMP.rev", "PUMP01:507\r\n");
+    const QByteArray inBoard = "PUMP02  \x10\x08";
+    for (int i = 0; i < inBoard.size(); ++i)
+        Poke(61424 + i, inBoard[i]);
+    const auto texts = [this](const char* family, int count) {
+        QStringList all;
+        for (int i = 0; i < count; ++i)
+            all << Find<QLabel>(QString("%1(%2)").arg(family).arg(i))->text();
+        return all;
+    };
+    Show([&] {
+        ClickTab(identTab);
+        UntilPolled();
+        EXPECT_EQ(texts("lblRevIdentInPLC", 3), (QStringList{"PUMP02  ", "8", "16"}));
+        EXPECT_EQ(texts("lblRevIdentOnDisk", 5), (QStringList{"PUMP01", "7", "165", "T7110", "-"}));
+    });
+}
+
+TEST_F(TargetBoardView, BytesThatAreNoCharactersShowAsBlanks) {
+    const char name[] = "AB\x01\x1F\x7F";
+    for (int i = 0; i < 8; ++i)
+        Poke(61424 + i, i < 5 ? name[i] : 0);
+    Show([this] {
+        UntilPolled();
+        EXPECT_EQ(Find<QLabel>("lblRevIdentInPLC(0)")->text(), "AB      ");
+    });
+}
+
+TEST_F(TargetBoardView, EscapeHeldDownInAnEntryLeavesItAndKeepsTheViewOpen) {
+    Show([this] {
+        Enter(networkTab, 0);
+        QTest::keyClicks(Entry(0), "12");
+        for (int repeat = 0; repeat < 5; ++repeat) {
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), repeat > 0);
+            QCoreApplication::sendEvent(view.focusWidget(), &held);
+        }
+        EXPECT_TRUE(view.isVisible());
+        EXPECT_TRUE(Button("cmdDefault")->hasFocus());
+        EXPECT_THAT(TakeWritten(), IsEmpty());
     });
 }
 
