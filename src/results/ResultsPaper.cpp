@@ -3,6 +3,7 @@
 #include "reports/DrawingSurface.h"
 #include "reports/ReportPrinter.h"
 #include <QString>
+#include <QStringList>
 
 namespace {
 constexpr double margin = 0.5; // inches

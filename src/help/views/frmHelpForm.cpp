@@ -2,6 +2,7 @@
 #include "help/views/frmHelp.h"
 #include "help/views/GuideBrowser.h"
 #include "help/views/HelpParts.h"
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QShortcut>
