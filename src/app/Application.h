@@ -2,6 +2,7 @@
 
 #include "base/FileSystem.h"
 #include "base/ViewLoop.h"
+#include "controls/FocusMark.h"
 #include "link/RSComm.h"
 #include "programset/FileOperations.h"
 #include "shell/frmMDIMain.h"
@@ -61,6 +62,7 @@ private:
     DiskFileOperations fileOperations_;
     RSComm link_;
     ViewLoopRunner loops_;
+    FocusMark focusMark_;
     frmMDIMain window_;
     std::unique_ptr<TransferViews> transfers_;
     std::unique_ptr<PLSTransfer> plsTransfer_;

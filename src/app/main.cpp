@@ -5,6 +5,7 @@
 #include "base/port/SystemSerialPorts.h"
 #include "base/ProcessStart.h"
 #include "base/VersionRecord.h"
+#include "controls/LegibleStyle.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
 #include "reports/views/PrinterSurface.h"
@@ -12,6 +13,7 @@
 
 int main(int argc, char** argv) {
     QApplication qt(argc, argv);
+    QApplication::setStyle(new LegibleStyle);
     QCoreApplication::setApplicationName(ProgramVersion().title);
     QCoreApplication::setApplicationVersion(ProgramVersion().Number());
     QGuiApplication::setDesktopFileName(QStringLiteral("halden.suite.quentor"));

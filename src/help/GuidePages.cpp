@@ -43,6 +43,7 @@ const std::vector<GuidePage>& GuidePages() {
         Page("pls-viewer.md", "frmPLSView"),
         Page("results.md", "frmViewResults"),
         Page("variable-documentation.md", "frmEditDoc"),
+        Page("keyboard.md"),
         Page("faults.md"),
         Page("support.md", "frmAbout frmSysInfo frmHelp"),
     };

@@ -39,3 +39,18 @@ CycleStrip LayOutCycle(int scaleFactor, const SetpointList& channel, std::option
         strip.marker = ruler.At(*position);
     return strip;
 }
+
+QString CycleInWords(int scaleFactor, const QString& channelName, const SetpointList& channel,
+                     std::optional<int> position) {
+    if (scaleFactor < 2)
+        return QStringLiteral("Nothing was read");
+    QStringList spans;
+    for (const Setpoint& setpoint : channel)
+        if (!setpoint.IsPlaceholder())
+            spans += QStringLiteral("%1 to %2").arg(setpoint.on).arg(setpoint.off);
+    const QString on = spans.isEmpty() ? QStringLiteral("never ON")
+                                       : QStringLiteral("ON ") + spans.join(QStringLiteral(", "));
+    const QString place =
+        position ? QStringLiteral("; the machine stands at %1").arg(*position) : QString();
+    return QStringLiteral("%1: %2 of %3").arg(channelName, on).arg(scaleFactor) + place;
+}

@@ -30,3 +30,8 @@ struct CycleStrip {
 /// yet) or a width of 0 gives an empty strip.
 CycleStrip LayOutCycle(int scaleFactor, const SetpointList& channel, std::optional<int> position,
                        double width);
+
+/// The same in words, for those who cannot see the strip: "CH3: ON 30 to 60, 330 to 10 of 360;
+/// the machine stands at 187". "Nothing was read" under a scale of 2; "never ON" without a span.
+QString CycleInWords(int scaleFactor, const QString& channelName, const SetpointList& channel,
+                     std::optional<int> position);

@@ -35,6 +35,7 @@ public:
     QSet<QString> Handled() const;
     /// The action of a menu entry or a toolbar button; null for an unknown name.
     QAction* Action(const QString& name) const;
+    QToolBar& Toolbar() const { return *toolbar_; }
     /// A menu or popup; null for an unknown name.
     QMenu* Menu(const QString& name) const;
     /// Puts the state onto all entries.

@@ -17,6 +17,7 @@ MdiChildren::MdiChildren(QMdiArea& area) : QObject(&area), area_(area) {
 void MdiChildren::SetBrowser(frmMain& browser) {
     browser_ = &browser;
     browserFrame_ = area_.addSubWindow(&browser, Qt::FramelessWindowHint);
+    browserFrame_->setWindowTitle(browser.accessibleName()); // heard, not seen
     browserFrame_->installEventFilter(this);
     browserFrame_->setGeometry(area_.viewport()->rect());
     browser.show();
@@ -49,12 +50,13 @@ void MdiChildren::Add(const QString& name) {
     QMdiSubWindow* frame = area_.addSubWindow(factories_.at(name)());
     frame->setAttribute(Qt::WA_DeleteOnClose, false); // a view lives on hidden
     frame->installEventFilter(this);
+    placed_[frame].cascaded = static_cast<int>(frames_.size());
     frames_[name] = frame;
     Place(*frame);
 }
 
 // Into the area that the browser's lists leave free; over them only where it is too small.
-void MdiChildren::Place(QMdiSubWindow& frame) const {
+void MdiChildren::Place(QMdiSubWindow& frame) {
     const QRect whole = area_.viewport()->rect();
     QRect free = whole;
     if (browser_ && browserFrame_) {
@@ -62,13 +64,26 @@ void MdiChildren::Place(QMdiSubWindow& frame) const {
         free = QRect(browser_->mapTo(area_.viewport(), area.topLeft()), area.size());
     }
     const QSize wanted = frame.sizeHint().expandedTo(frame.minimumSizeHint());
-    const int step = cascadeStep * static_cast<int>(frames_.size() - 1);
+    Placed& placed = placed_[&frame];
+    const int step = cascadeStep * placed.cascaded;
     QSize size(qMax(wanted.width(), free.width() - step),
                qMax(wanted.height(), free.height() - step));
     size = size.boundedTo(whole.size());
     const int x = qMin(free.left() + step, whole.width() - size.width());
     const int y = qMin(free.top() + step, whole.height() - size.height());
     frame.setGeometry(QRect(QPoint(qMax(0, x), qMax(0, y)), size));
+    placed.place = frame.geometry();
+}
+
+// A larger main window gives its room to the views, but to none that the user has moved or sized.
+void MdiChildren::PlaceAgain() {
+    for (const auto& [name, frame] : frames_) {
+        const auto placed = placed_.find(frame);
+        const bool ours = frame && placed != placed_.end() && !frame->isMaximized() &&
+                          !frame->isMinimized() && frame->geometry() == placed->second.place;
+        if (ours)
+            Place(*frame);
+    }
 }
 
 QMdiSubWindow* MdiChildren::Frame(const QString& name) const {
@@ -139,8 +154,10 @@ void MdiChildren::ActivateNext() {
 }
 
 bool MdiChildren::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == area_.viewport() && event->type() == QEvent::Resize)
+    if (watched == area_.viewport() && event->type() == QEvent::Resize) {
         Q_EMIT AreaResized();
+        PlaceAgain();
+    }
     if (watched == browserFrame_ && event->type() == QEvent::Close) {
         event->ignore(); // the browser stays
         return true;

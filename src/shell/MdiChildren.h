@@ -4,6 +4,7 @@
 #include <map>
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <QString>
 
 class ChildView;
@@ -55,7 +56,8 @@ protected:
 private:
     QMdiSubWindow* Frame(const QString& name) const;
     void Add(const QString& name);
-    void Place(QMdiSubWindow& frame) const;
+    void Place(QMdiSubWindow& frame);
+    void PlaceAgain();
     void Activated(QMdiSubWindow* frame);
     void ActivateNext();
     void KeepBrowserLowest();
@@ -67,4 +69,10 @@ private:
     QPointer<QMdiSubWindow> active_;
     std::map<QString, Factory> factories_;
     std::map<QString, QPointer<QMdiSubWindow>> frames_;
+    /// Where a view was put, for as long as the user leaves it there.
+    struct Placed {
+        QRect place;
+        int cascaded = 0; ///< how many views were placed before it
+    };
+    std::map<QMdiSubWindow*, Placed> placed_;
 };

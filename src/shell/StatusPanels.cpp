@@ -83,6 +83,7 @@ void StatusPanel::paintEvent(QPaintEvent*) {
 StatusPanels::StatusPanels(QStatusBar& bar, Clock& clock)
     : QObject(&bar), clock_(clock), nextMinute_(this) {
     bar.setObjectName(QStringLiteral("sbrMain"));
+    bar.setAccessibleName(QStringLiteral("Status bar"));
     for (int panel = systemMessage; panel <= time; ++panel)
         AddPanel(bar, panel,
                  QString::fromLatin1(panelTexts[static_cast<std::size_t>(panel - 1)].initialText));

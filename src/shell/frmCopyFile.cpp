@@ -75,6 +75,10 @@ void frmCopyFile::BuildForm() {
     form->addWidget(lblCopyStatus_);
     form->addStretch();
     form->addLayout(buttons);
+    const QWidgetList order{source_.name,        source_.browse, destination_.name,
+                            destination_.browse, cmdCopy_,       cmdCancel_};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 QPushButton* frmCopyFile::Button(const QString& name, const QString& caption) {

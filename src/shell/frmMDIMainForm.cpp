@@ -2,6 +2,7 @@
 #include "shell/frmMain.h"
 #include "shell/frmMDIMain.h"
 #include "shell/Icons.h"
+#include "shell/WindowKeys.h"
 #include <QMdiArea>
 #include <QScreen>
 #include <QStatusBar>
@@ -27,6 +28,7 @@ void frmMDIMain::BuildForm() {
     surface_ = new CommandSurface(*this, context_.dialogs);
     panels_ = new StatusPanels(*statusBar(), context_.clock);
     children_ = new MdiChildren(*area_);
+    new WindowKeys(*this, *area_, surface_->Toolbar());
     browser_ = new frmMain(context_.link, context_.dialogs, context_.files, context_.drives,
                            context_.folder, this);
     browser_->hide();

@@ -1,3 +1,4 @@
+#include "controls/KeyedSplitter.h"
 #include "shell/DirectoryList.h"
 #include "shell/FileList.h"
 #include "shell/frmMain.h"
@@ -5,7 +6,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPainter>
-#include <QSplitter>
 #include <QVBoxLayout>
 
 // How the browser is laid out. The lists stand at the left, above one another in two columns, and
@@ -25,8 +25,8 @@ protected:
     }
 };
 
-QSplitter* Splitter(Qt::Orientation orientation) {
-    auto* splitter = new QSplitter(orientation);
+QSplitter* Splitter(Qt::Orientation orientation, const char* dividerName) {
+    auto* splitter = new KeyedSplitter(orientation, QLatin1String(dividerName));
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(spacing);
     return splitter;
@@ -68,12 +68,12 @@ void frmMain::BuildForm() {
     placesLayout->addWidget(
         LabelledList(1, QStringLiteral("Fol&ders:"), QStringLiteral("dirDirList"), dirDirList_), 1);
 
-    QSplitter* upper = Splitter(Qt::Horizontal);
+    QSplitter* upper = Splitter(Qt::Horizontal, "Divider between folders and programs");
     upper->addWidget(places);
     upper->addWidget(
         LabelledList(2, QStringLiteral("&Programs:"), QStringLiteral("filFileList"), filFileList_));
     upper->setSizes({foldersWidth, listsWidth - foldersWidth});
-    QSplitter* left = Splitter(Qt::Vertical);
+    QSplitter* left = Splitter(Qt::Vertical, "Divider above the program set");
     left->addWidget(upper);
     left->addWidget(LabelledList(3, QStringLiteral("Pro&gram set:"), QStringLiteral("trvHDNList"),
                                  trvHDNList_));
@@ -81,7 +81,7 @@ void frmMain::BuildForm() {
     left->setStretchFactor(1, 2);
 
     auto* freeArea = new FreeGround;
-    lists_ = Splitter(Qt::Horizontal);
+    lists_ = Splitter(Qt::Horizontal, "Divider between the lists and the views");
     lists_->addWidget(left);
     lists_->addWidget(freeArea);
     lists_->setStretchFactor(0, 0);

@@ -79,7 +79,9 @@ TEST_F(ViewTexts, OfANewSet) {
 
 TEST(ViewTextsOfParts, OfTheArrowsOfAnEntry) {
     QLineEdit entry;
-    const EntryUpDown arrows(entry);
+    entry.setAccessibleName(QStringLiteral("Samples"));
+    EntryUpDown arrows(entry);
+    arrows.show(); // named once the entry has its name
     EXPECT_EQ(DifferencesFromList(arrows, QStringLiteral("EntryUpDown")), "");
 }
 

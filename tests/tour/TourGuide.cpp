@@ -59,6 +59,11 @@ QPixmap WithTitle(QWidget& window) {
     return picture;
 }
 
+// A window whose title would stand above the screen is moved down, as a window system does.
+QPoint BelowTop(QPoint place) {
+    return {place.x(), std::max(place.y(), 0)};
+}
+
 QString ButtonText(const QPushButton& button) {
     return button.text().remove(u'&');
 }
@@ -165,7 +170,7 @@ void TourGuide::TakePicture(const QString& name) {
         if (window->windowType() == Qt::Popup || window->windowFlags() & Qt::FramelessWindowHint)
             painter.drawPixmap(place, window->grab());
         else
-            painter.drawPixmap(place - QPoint(0, titleHeight), WithTitle(*window));
+            painter.drawPixmap(BelowTop(place - QPoint(0, titleHeight)), WithTitle(*window));
     }
     painter.end();
     const QString file = QStringLiteral("%1/%2-%3.png")

@@ -4,6 +4,7 @@
 #include "base/port/SerialMSComm.h"
 #include "base/port/SystemSerialPorts.h"
 #include "base/ProcessStart.h"
+#include "controls/LegibleStyle.h"
 #include "controls/PaintedBusyDisplay.h"
 #include "controls/QtDialogs.h"
 #include "reports/views/PrinterSurface.h"
@@ -17,19 +18,35 @@
 #include "tour/StatusTableTour.h"
 #include "tour/TargetBoardTour.h"
 #include "tour/TourGuide.h"
+#include "tour/TourScreen.h"
 #include "tour/TourSetting.h"
 #include "tour/TrendTour.h"
 #include <cstdio>
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
 
 namespace {
+// The colours of a usual dark scheme: entries darker than the window, all that is off in grey.
 QPalette DarkPalette() {
-    QPalette palette(QColor(0x2d, 0x2f, 0x33), QColor(0x24, 0x26, 0x2a));
+    const QColor window(0x2b, 0x2d, 0x31);
+    const QColor off(0x82, 0x86, 0x8c);
+    QPalette palette(QColor(0x35, 0x38, 0x3d), window);
+    palette.setColor(QPalette::Base, QColor(0x1e, 0x20, 0x23));
+    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2c));
     palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb0));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Light, QColor(0x4a, 0x4e, 0x55));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0x4f, 0x53, 0x5a));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, off);
     return palette;
+}
+
+// On a screen larger than the program's usual size the main window fills it.
+void AddFullScreen(TourGuide& guide, frmMDIMain& window) {
+    guide.Stop(
+        QStringLiteral("the main window fills the screen"),
+        [&window] { return window.isVisible(); }, [&window] { window.showMaximized(); });
 }
 
 int RunTour(const QString& output) {
@@ -52,6 +69,7 @@ int RunTour(const QString& output) {
     Application application({clock, dialogs, busy, port, folder, drives, ports, tools, printer,
                              [] { QApplication::exit(); }});
     TourGuide guide(application.MainWindow(), output);
+    AddFullScreen(guide, application.MainWindow());
     AddSplash(guide);
     AddMainJob(guide, application.MainWindow(), board);
     AddDataTransfers(guide, application.MainWindow(), board, setting);
@@ -68,30 +86,17 @@ int RunTour(const QString& output) {
 }
 } // namespace
 
-namespace {
-// Without a display the tour has a screen of 1280 x 800 pixels, as small as the program is used on,
-// and of four times as many where everything is drawn at 200 per cent.
-void ChooseScreen() {
-    if (qgetenv("QT_QPA_PLATFORM") != "offscreen")
-        return;
-    const QByteArray screen = qgetenv("QT_SCALE_FACTOR") == "2" ? "screen-200" : "screen";
-    qputenv("QT_QPA_PLATFORM",
-            "offscreen:configfile=" QUENTOR_SOURCE_FOLDER "/tests/tour/" + screen + ".json");
-}
-} // namespace
-
-/// quentor-tour FOLDER [--dark]: pictures and transcript go to FOLDER.
+/// quentor-tour FOLDER [--dark] [--screen=WIDTHxHEIGHT]: pictures and transcript go to FOLDER.
 int main(int argc, char** argv) {
-    ChooseScreen();
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // the tour's hand knows Qt's own
-    QApplication qt(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    if (arguments.contains(QLatin1String("--dark")))
-        QApplication::setPalette(DarkPalette());
-    if (arguments.size() < 2) {
-        std::fputs("quentor-tour FOLDER [--dark]\n", stderr);
+    const QStringList arguments(argv, argv + argc);
+    if (argc < 2 || !ChooseTourScreen(arguments.mid(2), arguments.at(1))) {
+        std::fputs("quentor-tour FOLDER [--dark] [--screen=WIDTHxHEIGHT]\n", stderr);
         return 2;
     }
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // the tour's hand knows Qt's own
+    QApplication qt(argc, argv);
+    QApplication::setStyle(new LegibleStyle(QStringLiteral("Fusion")));
+    if (arguments.contains(QLatin1String("--dark")))
+        QApplication::setPalette(DarkPalette());
     return RunTour(arguments.at(1));
 }

@@ -1,5 +1,6 @@
 #include "controls/entry/EntryUpDown.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QToolButton>
@@ -28,7 +29,6 @@ EntryUpDown::EntryUpDown(QLineEdit& buddy, QWidget* parent) : QWidget(parent), b
 QToolButton* EntryUpDown::AddArrow(Qt::ArrowType type, int difference, const QString& name) {
     auto* arrow = new QToolButton(this);
     arrow->setObjectName(name);
-    arrow->setAccessibleName(difference > 0 ? tr("One more") : tr("One less"));
     arrow->setArrowType(type);
     arrow->setAutoRepeat(true);
     arrow->setFocusPolicy(Qt::NoFocus);
@@ -40,6 +40,16 @@ QToolButton* EntryUpDown::AddArrow(Qt::ArrowType type, int difference, const QSt
             Step(difference);
     });
     return arrow;
+}
+
+// The box has got its name by now, its own or its label's.
+void EntryUpDown::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    QAccessibleInterface* box = QAccessible::queryAccessibleInterface(&buddy_);
+    const QString name = box ? box->text(QAccessible::Name) : QString();
+    setAccessibleName(tr("Arrows of %1").arg(name));
+    findChild<QToolButton*>(QStringLiteral("up"))->setAccessibleName(tr("%1 one more").arg(name));
+    findChild<QToolButton*>(QStringLiteral("down"))->setAccessibleName(tr("%1 one less").arg(name));
 }
 
 QSize EntryUpDown::sizeHint() const {

@@ -28,6 +28,9 @@ public:
 
     QSize sizeHint() const override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 Q_SIGNALS:
     /// The user stepped to another number, which stands in the box.
     void Changed(int value);

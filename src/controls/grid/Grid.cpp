@@ -210,9 +210,23 @@ void Grid::FitRowHeight() {
     verticalHeader()->setDefaultSectionSize(height);
 }
 
+// On some keyboards plus stands above the equals sign, which serves as well.
+bool Grid::SizeColumn(const QKeyEvent& event) {
+    const bool wider = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
+    if (!(event.modifiers() & Qt::ControlModifier) || (!wider && event.key() != Qt::Key_Minus) ||
+        currentIndex().column() < 0)
+        return false;
+    const int col = currentIndex().column();
+    const int step = 2 * fontMetrics().averageCharWidth();
+    userWidths_[col] = std::max(columnWidth(col) + (wider ? step : -step),
+                                horizontalHeader()->minimumSectionSize());
+    setColumnWidth(col, userWidths_[col]);
+    return true;
+}
+
 // What a key does is shown at once: only what comes from elsewhere is gathered.
 void Grid::keyPressEvent(QKeyEvent* event) {
-    const bool taken = keyHandler_ && keyHandler_(*event);
+    const bool taken = SizeColumn(*event) || (keyHandler_ && keyHandler_(*event));
     if (!taken)
         QTableView::keyPressEvent(event);
     FollowSelection();

@@ -14,7 +14,8 @@ class QKeyEvent;
 /// own; its owner makes one from the keys. Rows are counted from 0, the fixed rows included.
 ///
 /// Tab leaves the grid; the arrow keys, Home, End and the page keys move, with Shift they extend
-/// the selection.
+/// the selection. Ctrl and plus or minus make the current column wider or narrower, as dragging its
+/// edge in the heads does.
 class Grid : public QTableView {
     Q_OBJECT
 public:
@@ -105,6 +106,7 @@ private:
     void MoveTo(int row, int col);
     void FitRowHeight();
     void NoteUserWidth(int col, int width);
+    bool SizeColumn(const QKeyEvent& event);
 
     GridModel* model_;
     GridDelegate* delegate_;

@@ -211,8 +211,10 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     switch (role) {
     case Qt::DisplayRole:
         return HeadText(section);
-    case Qt::AccessibleTextRole:
-        return HeadText(section).simplified();
+    case Qt::AccessibleTextRole: {
+        const QString head = HeadText(section).simplified();
+        return head.isEmpty() ? QStringLiteral("Column %1").arg(section + 1) : head;
+    }
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(columns_[section].alignment);
     case Qt::FontRole:

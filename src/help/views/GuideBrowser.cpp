@@ -133,7 +133,7 @@ void GuideBrowser::StyleTables() {
         format.setCellSpacing(0);
         format.setBorder(1);
         format.setBorderCollapse(true);
-        format.setBorderBrush(palette().color(QPalette::Mid));
+        format.setBorderBrush(palette().color(QPalette::Disabled, QPalette::Text));
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
         table->setFormat(format);
     }

@@ -1,6 +1,7 @@
 #include "help/views/frmAbout.h"
 
 #include "base/VersionRecord.h"
+#include "controls/ValueLabel.h"
 #include "controls/ViewHelpers.h"
 #include "help/RevisionDate.h"
 #include "help/views/HelpParts.h"
@@ -28,15 +29,16 @@ QVBoxLayout* frmAbout::Texts() {
     EmphasiseLabel(*lblTitle_, titleSize, true);
     lblVersion_ = TextLabel("lblVersion", QString());
     lblRevisionDate_ = TextLabel("lblRevisionDate", QString());
-    lblDescription_ = TextLabel("lblDescription", QString());
-    lblTechSupport_ = TextLabel("lblTechSupport", QString());
+    lblDescription_ = new ValueLabel;
+    lblDescription_->setObjectName(QStringLiteral("lblDescription"));
+    lblTechSupport_ = new ValueLabel;
+    lblTechSupport_->setObjectName(QStringLiteral("lblTechSupport"));
     auto* texts = new QVBoxLayout;
     for (QLabel* label : {lblTitle_, lblVersion_, lblRevisionDate_})
         texts->addWidget(label);
-    for (QLabel* label : {lblDescription_, lblTechSupport_}) {
+    for (ValueLabel* label : {lblDescription_, lblTechSupport_}) {
         label->setWordWrap(true);
         label->setMinimumWidth(fontMetrics().averageCharWidth() * textWidth);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         texts->addSpacing(spacing / 2);
         texts->addWidget(label);
     }
@@ -67,6 +69,7 @@ void frmAbout::BuildForm() {
     body->addLayout(Texts(), 1);
     auto* form = new QVBoxLayout(this);
     form->setContentsMargins(spacing, spacing, spacing, spacing);
+    form->setSpacing(spacing);
     form->addLayout(body);
     form->addLayout(Buttons());
     cmdOk_->setFocus();
@@ -78,8 +81,8 @@ void frmAbout::FormLoad() {
     lblTitle_->setText(record.title);
     lblVersion_->setText(record.VersionText());
     lblRevisionDate_->setText(RevisionText(context_.revised));
-    lblDescription_->setText(record.description + u'\n' + record.copyright + u'\n' +
-                             record.licence + QStringLiteral("\n\n") + record.warning);
-    lblTechSupport_->setText(QStringLiteral("Technical Support:\n") + record.technicalHelp);
+    lblDescription_->Show(record.description + u'\n' + record.copyright + u'\n' + record.licence +
+                          QStringLiteral("\n\n") + record.warning);
+    lblTechSupport_->Show(QStringLiteral("Technical Support:\n") + record.technicalHelp);
     CenterForm(*this);
 }

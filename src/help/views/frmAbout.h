@@ -6,6 +6,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class ValueLabel;
 class QPushButton;
 class QVBoxLayout;
 
@@ -31,8 +32,8 @@ private:
     QLabel* lblTitle_ = nullptr;
     QLabel* lblVersion_ = nullptr;
     QLabel* lblRevisionDate_ = nullptr;
-    QLabel* lblDescription_ = nullptr;
-    QLabel* lblTechSupport_ = nullptr;
+    ValueLabel* lblDescription_ = nullptr;
+    ValueLabel* lblTechSupport_ = nullptr;
     QPushButton* cmdOk_ = nullptr;
     QPushButton* cmdSysInfo_ = nullptr;
 };

@@ -1,3 +1,4 @@
+#include "controls/KeyedSplitter.h"
 #include "help/GuidePages.h"
 #include "help/views/frmHelp.h"
 #include "help/views/GuideBrowser.h"
@@ -6,7 +7,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QShortcut>
-#include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -52,6 +52,8 @@ QBoxLayout* frmHelp::Tools() {
     txtSearch_->setAccessibleName(tr("Search in all pages"));
     txtSearch_->setPlaceholderText(tr("Search in all pages (Ctrl+F)"));
     txtSearch_->setClearButtonEnabled(true);
+    for (auto* clear : txtSearch_->findChildren<QToolButton*>())
+        clear->setAccessibleName(tr("Clear the search"));
     txtSearch_->setMinimumWidth(fontMetrics().averageCharWidth() * wordsWidth);
     lblHits_ = TextLabel("lblHits", QString());
     lblHits_->setMinimumWidth(fontMetrics().averageCharWidth() * countWidth);
@@ -74,7 +76,7 @@ QWidget* frmHelp::Lists() {
     lstHits_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     foundPane_ = Labelled(tr("&Found:"), "lstHits", *lstHits_);
     foundPane_->hide();
-    auto* lists = new QSplitter(Qt::Vertical);
+    auto* lists = new KeyedSplitter(Qt::Vertical, tr("Divider between contents and places found"));
     lists->setChildrenCollapsible(false);
     lists->addWidget(Labelled(tr("&Contents:"), "lstContents", *lstContents_));
     lists->addWidget(foundPane_);
@@ -87,7 +89,7 @@ void frmHelp::BuildForm() {
     txtGuide_->setAccessibleName(tr("Page of the guide"));
     auto* form = new QVBoxLayout(this);
     form->addLayout(Tools());
-    auto* panes = new QSplitter;
+    auto* panes = new KeyedSplitter(Qt::Horizontal, tr("Divider between lists and page"));
     panes->setChildrenCollapsible(false);
     panes->addWidget(Lists());
     panes->addWidget(txtGuide_);
@@ -132,6 +134,7 @@ void frmHelp::AddKeys() {
         txtSearch_->setFocus();
         txtSearch_->selectAll();
     });
+    key(QKeySequence(Qt::Key_F8), this, [this] { FocusNextDivider(*this); });
     for (const int enter : {Qt::Key_Return, Qt::Key_Enter}) {
         key(QKeySequence(enter), txtSearch_, [this] { NextHit(); })->setContext(Qt::WidgetShortcut);
         key(QKeySequence(Qt::SHIFT | enter), txtSearch_, [this] {

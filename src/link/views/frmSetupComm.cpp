@@ -7,6 +7,7 @@
 #include "base/SerialPorts.h"
 #include "controls/entry/EntryUpDown.h"
 #include "controls/entry/NumericEntries.h"
+#include "controls/ValueLabel.h"
 #include "controls/ViewHelpers.h"
 #include "link/PortProbe.h"
 #include "link/RSComm.h"
@@ -155,8 +156,7 @@ void frmSetupComm::cmdTest_Click() {
 }
 
 void frmSetupComm::ShowOutcome(const QString& text) {
-    lblTest_->setText(text);
-    lblTest_->setAccessibleName(text);
+    lblTest_->Show(text);
 }
 
 void frmSetupComm::Report(const RunTimeError& error, const QString& title) {

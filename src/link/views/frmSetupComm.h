@@ -12,6 +12,7 @@ class MSComm;
 class NumericEntries;
 class QBoxLayout;
 class QLabel;
+class ValueLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -70,7 +71,7 @@ private:
     std::array<QRadioButton*, 2> optPortSpeed_{};
     QTreeWidget* lstPorts_ = nullptr;
     QPushButton* cmdTest_ = nullptr;
-    QLabel* lblTest_ = nullptr;
+    ValueLabel* lblTest_ = nullptr;
     QPushButton* cmdSave_ = nullptr;
     QPushButton* cmdCancel_ = nullptr;
 };

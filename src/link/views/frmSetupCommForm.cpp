@@ -1,5 +1,6 @@
 #include "controls/entry/EntryUpDown.h"
 #include "controls/entry/NumericEntries.h"
+#include "controls/ValueLabel.h"
 #include "link/views/frmSetupComm.h"
 #include <QGroupBox>
 #include <QHeaderView>
@@ -7,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -16,6 +18,16 @@ namespace {
 constexpr int entryDigits = 3;
 constexpr int listLines = 6;
 constexpr int outcomeLines = 4;
+
+// Rows whose columns do not touch each other.
+class RoomyRow final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QSize room(2 * option.fontMetrics.averageCharWidth(), 4);
+        return QStyledItemDelegate::sizeHint(option, index) + room;
+    }
+};
 
 QPushButton* Button(const char* name, const QString& caption) {
     auto* button = new QPushButton(caption);
@@ -37,7 +49,7 @@ void frmSetupComm::BuildForm() {
         [](int) { return QStringLiteral("Comm Port"); }, this);
     entries_->Add(0, *txtCommPort_, *updCommPort_);
     const QWidgetList order{txtCommPort_, lstPorts_, optPortSpeed_[0], optPortSpeed_[1],
-                            cmdTest_,     cmdSave_,  cmdCancel_};
+                            cmdTest_,     lblTest_,  cmdSave_,         cmdCancel_};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
@@ -78,6 +90,7 @@ QWidget* frmSetupComm::PortList() {
     lstPorts_->setRootIsDecorated(false);
     lstPorts_->setUniformRowHeights(true);
     lstPorts_->setTabKeyNavigation(false);
+    lstPorts_->setItemDelegate(new RoomyRow(lstPorts_));
     lstPorts_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     lstPorts_->header()->setSectionsMovable(false);
     const int line = lstPorts_->fontMetrics().height() + 4;
@@ -106,12 +119,10 @@ QWidget* frmSetupComm::SpeedFrame() {
 QBoxLayout* frmSetupComm::TestRow() {
     cmdTest_ = Button("cmdTest", tr("&Test"));
     connect(cmdTest_, &QPushButton::clicked, this, &frmSetupComm::cmdTest_Click);
-    lblTest_ = new QLabel;
+    lblTest_ = new ValueLabel;
     lblTest_->setObjectName(QStringLiteral("lblTest"));
-    lblTest_->setTextFormat(Qt::PlainText);
     lblTest_->setWordWrap(true);
     lblTest_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    lblTest_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblTest_->setMinimumHeight(lblTest_->fontMetrics().lineSpacing() * outcomeLines);
     auto* row = new QHBoxLayout;
     row->addWidget(cmdTest_, 0, Qt::AlignTop);

@@ -47,6 +47,10 @@ void CycleStripView::PaintNow() {
     update();
 }
 
+QString CycleStripView::InWords() const {
+    return CycleInWords(cycle_.scaleFactor, cycle_.channelName, cycle_.setpoints, cycle_.position);
+}
+
 QSize CycleStripView::minimumSizeHint() const {
     const int number = fontMetrics().horizontalAdvance(QStringLiteral("4095"));
     return {narrowestBar + tickLength + gap + number + 2, shortestStrip};
@@ -94,7 +98,7 @@ void CycleStripView::PaintSpans(QPainter& painter) const {
     const QRect bar = Bar();
     const CycleStrip strip =
         LayOutCycle(cycle_.scaleFactor, cycle_.setpoints, std::nullopt, bar.height());
-    const QColor colour = palette().color(isEnabled() ? QPalette::Highlight : QPalette::Mid);
+    const QColor colour = palette().color(isEnabled() ? QPalette::Highlight : QPalette::Text);
     for (const StripSpan& span : strip.spans) {
         const int top = Y(span.left);
         const int height = std::max(leastSpan, Y(span.right) - top);

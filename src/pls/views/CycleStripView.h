@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/PaintedValue.h"
 #include "programset/PLSRecord.h"
 #include <optional>
 #include <QElapsedTimer>
@@ -20,7 +21,7 @@ struct ShownCycle {
 /// A strip that stands for one machine cycle, division 0 at the top: the ON spans of a channel as
 /// bars and the live position as a mark across it, for people who would rather look than read.
 /// However fast it is told of changes it paints at most 25 times a second.
-class CycleStripView final : public QWidget {
+class CycleStripView final : public QWidget, public PaintedValue {
     Q_OBJECT
 public:
     /// Shortest time between two repaints, in milliseconds.
@@ -33,6 +34,7 @@ public:
     /// What was told last, painted or not yet.
     const ShownCycle& Shown() const { return cycle_; }
 
+    QString InWords() const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

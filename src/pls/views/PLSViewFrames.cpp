@@ -1,5 +1,6 @@
 #include "pls/views/PLSViewFrames.h"
 
+#include "controls/ValueLabel.h"
 #include <QGridLayout>
 #include <QLabel>
 
@@ -33,11 +34,8 @@ void PLSConfigFrame::AddRow(QGridLayout& grid, int place, int column, int row) {
     auto* caption = new QLabel(PCFRowCaption(row));
     caption->setObjectName(IndexedName("lblPCFText", row));
     grid.addWidget(caption, place, column);
-    auto* value = new QLabel;
+    auto* value = new ValueLabel(PCFRowCaption(row));
     value->setObjectName(IndexedName("lblPCFValue", row));
-    value->setTextFormat(Qt::PlainText);
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    value->setAccessibleName(PCFRowCaption(row));
     value->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000 RPM")));
     QFont font = value->font();
     font.setBold(true);
@@ -76,5 +74,5 @@ void PLSConfigFrame::AddStandardRows(QGridLayout& grid) {
 void PLSConfigFrame::Show(const PLSRecord& record) {
     for (int row = 0; row < pcfRows; ++row)
         if (lblPCFValue_[row])
-            lblPCFValue_[row]->setText(PCFRowValue(row, record));
+            lblPCFValue_[row]->Show(PCFRowValue(row, record));
 }

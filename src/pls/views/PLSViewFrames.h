@@ -4,7 +4,7 @@
 #include <QGroupBox>
 
 class QGridLayout;
-class QLabel;
+class ValueLabel;
 
 /// A frame of captions and values of a configuration: lblPCFText and lblPCFValue of its rows.
 class PLSConfigFrame final : public QGroupBox {
@@ -21,5 +21,5 @@ private:
     void AddR6500Rows(QGridLayout& grid);
     void AddStandardRows(QGridLayout& grid);
 
-    std::array<QLabel*, pcfRows> lblPCFValue_{}; // null for the rows of the other layout
+    std::array<ValueLabel*, pcfRows> lblPCFValue_{}; // null for the rows of the other layout
 };

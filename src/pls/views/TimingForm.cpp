@@ -85,6 +85,7 @@ TimingForm::TimingForm(QWidget& view)
     cboTargetBoard->setObjectName(QStringLiteral("cboTargetBoard"));
     for (const PLSBoard& board : PLSBoards())
         cboTargetBoard->addItem(QString::fromUtf16(board.item));
+    cmdDefault = MakeDefaultButton(view); // first, so that Tab goes on from it to the grid
     MakeFrames(view);
     MakeConfigEntries();
     MakeTimingEntries();
@@ -92,7 +93,6 @@ TimingForm::TimingForm(QWidget& view)
     MakeButtons(view);
     MakeGrid();
     MakePanels(view);
-    cmdDefault = MakeDefaultButton(view);
     NameForScreenReaders();
     LayOut(view);
 }

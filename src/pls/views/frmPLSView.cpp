@@ -79,6 +79,10 @@ void frmPLSView::Load() {
     ShowConfiguration();
     SetUpGrid();
     setWindowTitle(PLSViewCaption(gHdnFile, board_));
+    if (frame_ == PLSViewFrame::Setpoints)
+        fgPLSChannels_->setFocus();
+    else
+        findChild<QPushButton*>(QStringLiteral("cmdOk"))->setFocus();
     LayoutView();
 }
 

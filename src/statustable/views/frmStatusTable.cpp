@@ -12,6 +12,7 @@
 #include "statustable/TableBoards.h"
 #include "statustable/views/StatusTableHost.h"
 #include "statustable/views/TableNames.h"
+#include <algorithm>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -213,5 +214,8 @@ void frmStatusTable::SizeGrid() {
     const QFontMetrics metrics = form_.fgStatus->fontMetrics();
     const int digit = metrics.horizontalAdvance(u'0');
     const int least = 11 * digit; // "655359999" and a margin
-    form_.fgStatus->ShareWidth({4, 2, 2, 2, 2, 2}, {2 * least, least, least, least, least, least});
+    // The column of the names gives way first, so that all fit into the smallest main window.
+    const int beside = form_.fgStatus->viewport()->width() - 5 * least;
+    const int leastName = std::clamp(beside, 15 * digit, 2 * least);
+    form_.fgStatus->ShareWidth({4, 2, 2, 2, 2, 2}, {leastName, least, least, least, least, least});
 }

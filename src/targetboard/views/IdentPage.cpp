@@ -1,5 +1,6 @@
 #include "targetboard/views/IdentPage.h"
 
+#include "controls/ValueLabel.h"
 #include "targetboard/TargetBoardShown.h"
 #include "targetboard/views/PageParts.h"
 #include <QGridLayout>
@@ -32,7 +33,7 @@ IdentPage::IdentPage(QWidget* parent) : QFrame(parent) {
 
 template <std::size_t count>
 QGroupBox* IdentPage::IdentFrame(const QString& title, const char* name,
-                                 std::array<QLabel*, count>& labels) {
+                                 std::array<ValueLabel*, count>& labels) {
     auto* frame = new QGroupBox(title);
     auto* grid = new QGridLayout(frame);
     grid->setColumnStretch(1, 1);
@@ -41,9 +42,8 @@ QGroupBox* IdentPage::IdentFrame(const QString& title, const char* name,
     for (std::size_t i = 0; i < count; ++i) {
         const int row = static_cast<int>(i);
         grid->addWidget(new QLabel(QLatin1String(captions[i])), row, 0);
-        labels[i] = PlainLabel(IndexedName(name, row));
-        labels[i]->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        labels[i]->setAccessibleName(title + u' ' + QLatin1String(captions[i]));
+        labels[i] = new ValueLabel(title + u' ' + QLatin1String(captions[i]));
+        labels[i]->setObjectName(IndexedName(name, row));
         grid->addWidget(labels[i], row, 1);
     }
     return frame;
@@ -51,9 +51,9 @@ QGroupBox* IdentPage::IdentFrame(const QString& title, const char* name,
 
 void IdentPage::Show(const TargetBoardShown& shown) {
     for (std::size_t i = 0; i < lblRevIdentInPLC_.size(); ++i) {
-        lblRevIdentInPLC_[i]->setText(Printable(shown.lblRevIdentInPLC[i]));
+        lblRevIdentInPLC_[i]->Show(Printable(shown.lblRevIdentInPLC[i]));
         lblRevIdentInPLC_[i]->setEnabled(shown.controls.lblRevIdentInPLC());
     }
     for (std::size_t i = 0; i < lblRevIdentOnDisk_.size(); ++i)
-        lblRevIdentOnDisk_[i]->setText(Printable(shown.lblRevIdentOnDisk[i]));
+        lblRevIdentOnDisk_[i]->Show(Printable(shown.lblRevIdentOnDisk[i]));
 }

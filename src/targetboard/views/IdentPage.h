@@ -5,7 +5,7 @@
 #include <QFrame>
 
 class QGroupBox;
-class QLabel;
+class ValueLabel;
 struct TargetBoardShown;
 
 /// The page of the program ident in the board and on disk, fraTargetBoard(1).
@@ -19,8 +19,8 @@ public:
 private:
     template <std::size_t count>
     static QGroupBox* IdentFrame(const QString& title, const char* name,
-                                 std::array<QLabel*, count>& labels);
+                                 std::array<ValueLabel*, count>& labels);
 
-    std::array<QLabel*, IdentLabel::InPLCCount> lblRevIdentInPLC_{};
-    std::array<QLabel*, IdentLabel::OnDiskCount> lblRevIdentOnDisk_{};
+    std::array<ValueLabel*, IdentLabel::InPLCCount> lblRevIdentInPLC_{};
+    std::array<ValueLabel*, IdentLabel::OnDiskCount> lblRevIdentOnDisk_{};
 };

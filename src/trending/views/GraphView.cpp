@@ -1,12 +1,16 @@
 #include "trending/views/GraphView.h"
 
 #include "trending/modGraph.h"
+#include <algorithm>
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
 namespace {
 constexpr double twipsPerPixel = 15.0; // at 96 dots per inch
+constexpr int samplesOfPage = 10;      // what a page key moves the crosshair by
+constexpr int focusFrame = 2;          // pixels
 
 QPalette PaperPalette() {
     QPalette palette;
@@ -19,6 +23,7 @@ QPalette PaperPalette() {
 GraphView::GraphView(const modGraph& graph, QWidget* parent)
     : QWidget(parent), graph_(graph), picture_(metrics_, 0.0, 0.0) {
     setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Trend graph"));
 }
 
@@ -52,6 +57,15 @@ QString GraphView::CrosshairText() const {
     return QStringLiteral("Sample %1: %2").arg(*pointed_).arg(samples_[*pointed_]);
 }
 
+QString GraphView::InWords() const {
+    if (samples_.empty())
+        return QStringLiteral("No samples");
+    const auto [least, most] = std::minmax_element(samples_.begin(), samples_.end());
+    const QString all =
+        QStringLiteral("%1 samples from %2 to %3").arg(samples_.size()).arg(*least).arg(*most);
+    return pointed_ ? all + QStringLiteral("; ") + CrosshairText() : all;
+}
+
 void GraphView::PaintCrosshair(QPainter& painter) const {
     const double x = graph_.XOf(*pointed_);
     const double top = graph_.OriginY() - graph_.PlotHeight();
@@ -76,6 +90,10 @@ void GraphView::paintEvent(QPaintEvent*) {
     PaintPicture(painter, palette());
     if (pointed_)
         PaintCrosshair(painter);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), focusFrame));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
 }
 
 void GraphView::resizeEvent(QResizeEvent*) {
@@ -85,11 +103,61 @@ void GraphView::resizeEvent(QResizeEvent*) {
 void GraphView::mouseMoveEvent(QMouseEvent* event) {
     const auto sample = graph_.SampleAt(event->position().x() * twipsPerPixel);
     const bool drawn = sample && *sample < static_cast<int>(samples_.size());
-    pointed_ = drawn ? sample : std::nullopt;
+    Point(drawn ? sample : std::nullopt);
+}
+
+// Whoever works from the keyboard keeps the crosshair wherever the mouse lies.
+void GraphView::leaveEvent(QEvent*) {
+    if (!hasFocus())
+        Point(std::nullopt);
+}
+
+void GraphView::Point(std::optional<int> sample) {
+    if (sample == pointed_)
+        return;
+    pointed_ = sample;
+    update();
+    SayChanged(*this);
+}
+
+std::optional<int> GraphView::PointedAfter(int key) const {
+    const int last = static_cast<int>(samples_.size()) - 1;
+    const auto moved = [&](int by) { return std::clamp(pointed_.value_or(0) + by, 0, last); };
+    switch (key) {
+    case Qt::Key_Left:
+        return moved(-1);
+    case Qt::Key_Right:
+        return moved(pointed_ ? 1 : 0);
+    case Qt::Key_PageUp:
+        return moved(-samplesOfPage);
+    case Qt::Key_PageDown:
+        return moved(samplesOfPage);
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return last;
+    default:
+        return std::nullopt;
+    }
+}
+
+// A single sample draws no line to point at.
+void GraphView::keyPressEvent(QKeyEvent* event) {
+    const std::optional<int> pointed = PointedAfter(event->key());
+    if (event->key() == Qt::Key_Escape && pointed_)
+        Point(std::nullopt);
+    else if (pointed && samples_.size() > 1)
+        Point(pointed);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void GraphView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
     update();
 }
 
-void GraphView::leaveEvent(QEvent*) {
-    pointed_.reset();
+void GraphView::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
     update();
 }

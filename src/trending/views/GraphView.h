@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/PaintedValue.h"
 #include "reports/views/SurfacePainting.h"
 #include <optional>
 #include <QWidget>
@@ -9,8 +10,10 @@ class modGraph;
 class QImage;
 
 /// The drawing surface of the graph in a window: sharp at any scale factor, in the colours of the
-/// scheme. Under the mouse it shows a crosshair with the value of the sample there.
-class GraphView final : public QWidget {
+/// scheme. Under the mouse it shows a crosshair with the value of the sample there. From the
+/// keyboard Left and Right move the crosshair by a sample, the page keys by ten, Home and End to
+/// the first and the last; Escape takes it away.
+class GraphView final : public QWidget, public PaintedValue {
     Q_OBJECT
 public:
     /// `graph` tells which sample stands where; it must outlive the view.
@@ -24,6 +27,8 @@ public:
     QImage Image() const;
     /// What the crosshair says: "Sample 3: 120"; empty while there is none.
     QString CrosshairText() const;
+    /// How many samples there are, their range, and what the crosshair says.
+    QString InWords() const override;
 
     QSize minimumSizeHint() const override { return {320, 200}; }
 
@@ -32,8 +37,13 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void Point(std::optional<int> sample);
+    std::optional<int> PointedAfter(int key) const;
     void PaintCrosshair(QPainter& painter) const;
     void PaintPicture(QPainter& painter, const QPalette& colours) const;
 
@@ -41,5 +51,5 @@ private:
     QtTextMetrics metrics_;
     Picture picture_;
     std::vector<qint32> samples_;
-    std::optional<int> pointed_; // sample under the mouse
+    std::optional<int> pointed_; // sample under the crosshair
 };

@@ -65,7 +65,10 @@ TrendingForm::TrendingForm(QWidget& view, const modGraph& graph)
     cboAddress->setInsertPolicy(QComboBox::NoInsert);
     cboAddress->setCompleter(nullptr);
     cboAddress->setAccessibleName(QStringLiteral("Variable"));
+    cboAddress->lineEdit()->setAccessibleName(QStringLiteral("Variable"));
     cboOptions->setAccessibleName(QStringLiteral("Interval"));
+    // On some platforms the name of a list is its choice; what has no label is described.
+    cboOptions->setAccessibleDescription(QStringLiteral("Interval"));
     fgTrend->setAccessibleName(QStringLiteral("Trend samples"));
     const int digit = fgTrend->fontMetrics().horizontalAdvance(u'0');
     fgTrend->setMinimumWidth(charactersOfRow * digit +
