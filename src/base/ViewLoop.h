@@ -28,6 +28,7 @@ public:
     /// timers of views go on.
     enum class For { Work, Prompt };
 
+    /// Holds from now on until it goes.
     explicit ViewLoopHold(For what = For::Work);
     ~ViewLoopHold();
     ViewLoopHold(const ViewLoopHold&) = delete;

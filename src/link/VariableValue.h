@@ -21,4 +21,6 @@ struct WidthLimit {
     QString message;
 };
 
+/// The limit of width 'B' (255), 'W' (65,535) or 'D' (655,359,999 = 65535 x 10000 + 9999, since
+/// double words are decimal).
 WidthLimit LimitOfWidth(QChar width);

@@ -17,6 +17,7 @@ public:
     /// Title of the error box.
     inline static const QString errorTitle = QStringLiteral("New File");
 
+    /// Both must outlive the object.
     NewProgramSet(Dialogs& dialogs, FileOperations& files);
 
     /// What became of the user's wish.

@@ -21,6 +21,7 @@ public:
         bool leaves;  ///< the focus goes to the view's hidden button; else the text is selected
     };
 
+    /// Rules of `count` entries, 1 or more; their indexes below are 0 to count - 1.
     explicit EntryRules(int count);
 
     /// Whether an entry may be left with this text: a whole number in plain digits within the

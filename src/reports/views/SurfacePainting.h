@@ -27,7 +27,8 @@ QColor PaperColour(int colour);
 /// Colours that can be read on the ground of a window of this scheme, light or dark.
 QColor ScreenColour(int colour, const QPalette& palette);
 
-// Painting in twips: the painter is scaled accordingly.
+/// Each paints what was drawn, in twips (1440 an inch): the painter must be scaled accordingly.
+/// `colourOf` gives the colour for a number of the palette.
 void PaintLine(QPainter& painter, const DrawnLine& line, const ColourOf& colourOf);
 void PaintText(QPainter& painter, const DrawnText& text, const ColourOf& colourOf);
 void PaintDrawing(QPainter& painter, const Drawing& drawing, const ColourOf& colourOf);
