@@ -4,10 +4,10 @@
 #include "HostilePort.h"
 #include "jobs/DataTransfer.h"
 #include "jobs/DownloadDatafile.h"
-#include "jobs/JobProgress.h"
 #include "jobs/JobRunner.h"
 #include "session/CommMode.h"
 #include "session/Globals.h"
+#include "support/NoProgress.h"
 #include <array>
 
 // The user's text file of numbers, all the way into a board that answers well.
@@ -15,17 +15,6 @@
 namespace {
 constexpr int board = 52;
 constexpr int firstAddress = 32000; // words and double words soon reach the end of 16 bits
-
-class NoProgress final : public JobProgress {
-public:
-    void ShowMessage(const QString&) override {}
-    void ShowSecondLine(const QString&) override {}
-    void SetRange(qint32, qint32) override {}
-    void SetValue(qint32) override {}
-    bool Cancelled() const override { return false; }
-    void ClearCancel() override {}
-    void Yield() override {}
-};
 
 class TransferAlone final : public JobRunner {
 public:

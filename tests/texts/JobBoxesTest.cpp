@@ -1,19 +1,14 @@
 #include "base/RunTimeError.h"
 #include "pls/jobs/PLSJobsFixture.h"
+#include "support/NoProgress.h"
 
 // The box of a limit switch download that raises: nothing in the job itself does.
 
 namespace {
 // A display that cannot show a message.
-class FailingProgress final : public JobProgress {
+class FailingProgress final : public NoProgress {
 public:
     void ShowMessage(const QString&) override { throw RunTimeError(ErrorNumber::DeviceIOError); }
-    void ShowSecondLine(const QString&) override {}
-    void SetRange(qint32, qint32) override {}
-    void SetValue(qint32) override {}
-    bool Cancelled() const override { return false; }
-    void ClearCancel() override {}
-    void Yield() override {}
 };
 
 class JobBoxes : public PLSJobsFixture {};

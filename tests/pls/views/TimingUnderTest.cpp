@@ -5,6 +5,7 @@
 #include "controls/grid/Grid.h"
 #include "controls/ViewHelpers.h"
 #include "session/Globals.h"
+#include "support/NoProgress.h"
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QToolButton>
@@ -13,21 +14,15 @@ namespace {
 constexpr int attention = 0xFF;
 constexpr int readOffset = 0x28;
 
-class NoProgress final : public JobProgress {
+class YieldingProgress final : public NoProgress {
 public:
-    void ShowMessage(const QString&) override {}
-    void ShowSecondLine(const QString&) override {}
-    void SetRange(qint32, qint32) override {}
-    void SetValue(qint32) override {}
-    bool Cancelled() const override { return false; }
-    void ClearCancel() override {}
     void Yield() override { QCoreApplication::processEvents(); }
 };
 } // namespace
 
 void PlainJobRunner::RunWaitJob(qint16 JobCode) {
     const ViewLoopHold hold;
-    NoProgress progress;
+    YieldingProgress progress;
     ran.push_back(JobCode);
     jobs_.Run(JobCode, progress);
 }

@@ -1,25 +1,11 @@
 #include "TrendingViewUnderTest.h"
 
-#include "jobs/JobProgress.h"
 #include "jobs/WaitJobs.h"
 #include "reports/views/PdfPages.h"
+#include "support/NoProgress.h"
 #include "trending/views/frmTrendingPrint.h"
 #include <QLabel>
 #include <QPushButton>
-
-namespace {
-// A busy view that nobody looks at.
-class NoProgress final : public JobProgress {
-public:
-    void ShowMessage(const QString&) override {}
-    void ShowSecondLine(const QString&) override {}
-    void SetRange(qint32, qint32) override {}
-    void SetValue(qint32) override {}
-    bool Cancelled() const override { return false; }
-    void ClearCancel() override {}
-    void Yield() override {}
-};
-} // namespace
 
 TEST_F(TrendingView, ThePrintDialogRunsTheReportAndPrintsTheGraph) {
     printer.UsePrinter({QString(), Path("graph.pdf"), 1});
