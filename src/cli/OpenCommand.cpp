@@ -25,8 +25,7 @@ Outcome OpenCommand(CommandContext& context) {
     if (!context.Given().operands.isEmpty()) {
         if (auto failure = context.TakeSet())
             return *failure;
-        isSelected = PutFirst(gHdnFile,
-                              context.Platform().folder.Path(QStringLiteral("support/HD2000.dat")));
+        isSelected = PutFirst(gHdnFile, RecentList::FileIn(context.Platform().folder));
     }
     context.Platform().startQuentor();
     if (!isSelected)

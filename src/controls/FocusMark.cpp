@@ -20,6 +20,7 @@ protected:
 
 bool NeedsMark(const QWidget& focus) {
     const auto* button = qobject_cast<const QPushButton*>(&focus);
+    // A default button without a width is the hidden one of the views with entries.
     const bool byKeyboard = focus.window()->testAttribute(Qt::WA_KeyboardFocusChange);
     return byKeyboard && (qobject_cast<const QAbstractScrollArea*>(&focus) ||
                           (button && button->isDefault() && button->width() > 0));

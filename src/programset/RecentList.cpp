@@ -1,5 +1,6 @@
 #include "programset/RecentList.h"
 
+#include "base/ApplicationFolder.h"
 #include "base/FileSystem.h"
 #include "base/TextFile.h"
 
@@ -10,6 +11,10 @@ QString CaptionOf(int index, const QString& path) {
     return u'&' + QString::number(index + 1) + u' ' + path;
 }
 } // namespace
+
+QString RecentList::FileIn(const ApplicationFolder& folder) {
+    return folder.Path(QStringLiteral("support/HD2000.dat"));
+}
 
 RecentList::RecentList() {
     for (int index = 0; index < length; ++index)

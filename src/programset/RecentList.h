@@ -3,10 +3,15 @@
 #include <array>
 #include <QString>
 
+class ApplicationFolder;
+
 /// The list of the last four program sets, newest first, and what its menu entries show.
 class RecentList {
 public:
     static constexpr int length = 4;
+
+    /// Path of the list's file, which may not be there yet.
+    static QString FileIn(const ApplicationFolder& folder);
 
     /// An empty list; no entry is shown.
     RecentList();

@@ -17,9 +17,8 @@ frmMDIMain::frmMDIMain(const ShellContext& context)
     BuildForm();
     programs_ = std::make_unique<ProgramCommands>(context_.link, mode_, context_.dialogs,
                                                   context_.files, *browser_, *timer_, views_);
-    recent_ =
-        std::make_unique<RecentMenu>(context_.folder.Path(QStringLiteral("support/HD2000.dat")),
-                                     *surface_, context_.files, *browser_, *programs_);
+    recent_ = std::make_unique<RecentMenu>(RecentList::FileIn(context_.folder), *surface_,
+                                           context_.files, *browser_, *programs_);
     MakeCommands();
     RegisterCommands();
     ConnectBrowser();
