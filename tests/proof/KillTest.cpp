@@ -4,6 +4,7 @@
 #include <chrono>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <random>
 #include <sys/wait.h>
@@ -27,17 +28,27 @@ protected:
             whole_[content] = FilesBelow(folder_.path());
         }
     }
-    [[noreturn]] void SaveForEver(int readyPipe) const {
+    // An exception ends this process on the spot: it must not come to the end of the test, where
+    // the folder is removed, which is the parent's.
+    [[noreturn]] void SaveForEver(int readyPipe) const noexcept {
         for (int content = 1;; content = 1 - content) {
             GetParam().save.run(folder_.path(), content);
             if (readyPipe >= 0 && ::write(readyPipe, "r", 1) == 1)
                 ::close(std::exchange(readyPipe, -1));
         }
     }
+    /// Lets the next process draw other random names than the ones before it, as a program that is
+    /// started anew does. A fork inherits the state of the generator: every process would meet the
+    /// temporary files that the killed ones left, and QTemporaryFile gives up after 16 such names.
+    static void DrawOtherNames() {
+        constexpr int drawsOfAProcess = 10'000; // more than it makes names in its short life
+        QRandomGenerator::global()->discard(drawsOfAProcess);
+    }
     /// Starts the saving process, waits for its first save and kills it a moment later.
     void SaveAndKill(std::chrono::microseconds after) const {
         int ready[2];
         ASSERT_EQ(::pipe(ready), 0);
+        DrawOtherNames();
         const pid_t child = ::fork();
         if (child == 0)
             SaveForEver(ready[1]);
@@ -49,7 +60,7 @@ protected:
         ::kill(child, SIGKILL);
         int status = 0;
         ::waitpid(child, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status));
+        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "status " << status;
     }
     void ExpectWhole() const {
         const Files now = FilesBelow(folder_.path());
