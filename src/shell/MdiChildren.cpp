@@ -50,13 +50,13 @@ void MdiChildren::Add(const QString& name) {
     QMdiSubWindow* frame = area_.addSubWindow(factories_.at(name)());
     frame->setAttribute(Qt::WA_DeleteOnClose, false); // a view lives on hidden
     frame->installEventFilter(this);
-    placed_[frame].cascaded = static_cast<int>(frames_.size());
-    frames_[name] = frame;
-    Place(*frame);
+    const int cascaded = static_cast<int>(children_.size());
+    Place(children_[name] = {frame, cascaded, QRect()});
 }
 
 // Into the area that the browser's lists leave free; over them only where it is too small.
-void MdiChildren::Place(QMdiSubWindow& frame) {
+void MdiChildren::Place(Child& child) {
+    QMdiSubWindow& frame = *child.frame;
     const QRect whole = area_.viewport()->rect();
     QRect free = whole;
     if (browser_ && browserFrame_) {
@@ -64,31 +64,30 @@ void MdiChildren::Place(QMdiSubWindow& frame) {
         free = QRect(browser_->mapTo(area_.viewport(), area.topLeft()), area.size());
     }
     const QSize wanted = frame.sizeHint().expandedTo(frame.minimumSizeHint());
-    Placed& placed = placed_[&frame];
-    const int step = cascadeStep * placed.cascaded;
+    const int step = cascadeStep * child.cascaded;
     QSize size(qMax(wanted.width(), free.width() - step),
                qMax(wanted.height(), free.height() - step));
     size = size.boundedTo(whole.size());
     const int x = qMin(free.left() + step, whole.width() - size.width());
     const int y = qMin(free.top() + step, whole.height() - size.height());
     frame.setGeometry(QRect(QPoint(qMax(0, x), qMax(0, y)), size));
-    placed.place = frame.geometry();
+    child.place = frame.geometry();
 }
 
 // A larger main window gives its room to the views, but to none that the user has moved or sized.
 void MdiChildren::PlaceAgain() {
-    for (const auto& [name, frame] : frames_) {
-        const auto placed = placed_.find(frame);
-        const bool ours = frame && placed != placed_.end() && !frame->isMaximized() &&
-                          !frame->isMinimized() && frame->geometry() == placed->second.place;
+    for (auto& [name, child] : children_) {
+        const QMdiSubWindow* frame = child.frame;
+        const bool ours = frame && !frame->isMaximized() && !frame->isMinimized() &&
+                          frame->geometry() == child.place;
         if (ours)
-            Place(*frame);
+            Place(child);
     }
 }
 
 QMdiSubWindow* MdiChildren::Frame(const QString& name) const {
-    const auto found = frames_.find(name);
-    return found == frames_.end() ? nullptr : found->second.data();
+    const auto found = children_.find(name);
+    return found == children_.end() ? nullptr : found->second.frame.data();
 }
 
 QWidget* MdiChildren::View(const QString& name) const {
@@ -124,9 +123,9 @@ void MdiChildren::Activated(QMdiSubWindow* frame) {
 void MdiChildren::ResizeAll() {
     if (browser_)
         browser_->Form_Resize();
-    for (const auto& [name, frame] : frames_) {
-        ChildView* view = Handlers(frame);
-        if (view && frame->isVisible())
+    for (const auto& [name, child] : children_) {
+        ChildView* view = Handlers(child.frame);
+        if (view && child.frame->isVisible())
             view->Form_Resize();
     }
 }

@@ -54,9 +54,16 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// A view that was shown, and where it was put; it stays there until the user moves it.
+    struct Child {
+        QPointer<QMdiSubWindow> frame;
+        int cascaded = 0; ///< how many views were placed before it
+        QRect place;
+    };
+
     QMdiSubWindow* Frame(const QString& name) const;
     void Add(const QString& name);
-    void Place(QMdiSubWindow& frame);
+    void Place(Child& child);
     void PlaceAgain();
     void Activated(QMdiSubWindow* frame);
     void ActivateNext();
@@ -68,11 +75,5 @@ private:
     QPointer<QMdiSubWindow> browserFrame_;
     QPointer<QMdiSubWindow> active_;
     std::map<QString, Factory> factories_;
-    std::map<QString, QPointer<QMdiSubWindow>> frames_;
-    /// Where a view was put, for as long as the user leaves it there.
-    struct Placed {
-        QRect place;
-        int cascaded = 0; ///< how many views were placed before it
-    };
-    std::map<QMdiSubWindow*, Placed> placed_;
+    std::map<QString, Child> children_;
 };
